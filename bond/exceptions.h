@@ -1,0 +1,34 @@
+// What reading a settings string throws. A host that loads strings of unknown origin catches
+// bond::Exception (or std::exception): nothing was changed when one of these arrives.
+//
+// The classes are complete here, so that they are the same types in the library and in its host.
+#pragma once
+
+#include <stdexcept>
+#include <string>
+
+namespace bond {
+
+class Exception : public std::runtime_error {
+   public:
+    using std::runtime_error::runtime_error;
+};
+
+// The content is wrong. Texts:
+//   "JSON parser error: <message> at offset <bytes>"
+//   "Max recursion depth exceeded"      structs or containers nested deeper than 64
+//   "Unknown data type found"           a field of a wire type that does not exist
+class CoreException : public Exception {
+   public:
+    using Exception::Exception;
+};
+
+// The bytes end too early. Texts:
+//   "Read out of bounds: <n> bytes requested, offset: <position>, length: <bytes>"
+//   "Offset caused pointer to overflow"
+class StreamException : public Exception {
+   public:
+    using Exception::Exception;
+};
+
+}  // namespace bond

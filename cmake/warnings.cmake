@@ -1,0 +1,10 @@
+# Every target of the project links tiv_warnings: one place for language strictness and the include root.
+add_library(tiv_warnings INTERFACE)
+target_include_directories(tiv_warnings INTERFACE ${PROJECT_SOURCE_DIR})
+if(MSVC)
+    target_compile_options(tiv_warnings INTERFACE /W4 /permissive- /utf-8 $<$<BOOL:${TIV_WARNINGS_AS_ERRORS}>:/WX>)
+else()
+    target_compile_options(tiv_warnings INTERFACE
+        -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor -Wold-style-cast
+        $<$<BOOL:${TIV_WARNINGS_AS_ERRORS}>:-Werror>)
+endif()

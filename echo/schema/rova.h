@@ -1,0 +1,31 @@
+// The settings record of the load-train program (rova).
+#pragma once
+
+#include "echo/schema/output_type.h"
+
+namespace tiv::echo::rova {
+
+struct RovaProperties {
+    OutPutType rova_load = NORMAL_OUTPUT;
+    OutPutType rova_eval = NO_OUTPUT;
+    OutPutType rova_lpos = FULL_OUTPUT;
+    OutPutType rova_res = NO_OUTPUT;
+};
+
+struct Data {
+    RovaProperties prop;
+};
+
+constexpr auto describe(const RovaProperties*) {
+    return bond::record<RovaProperties>("tiv.echo.rova.RovaProperties",
+        option("rova_load", &RovaProperties::rova_load, "Loadtrains"),
+        option("rova_eval", &RovaProperties::rova_eval, "Evaluation"),
+        option("rova_lpos", &RovaProperties::rova_lpos, "Load positions"),
+        option("rova_res", &RovaProperties::rova_res, "Results"));
+}
+
+constexpr auto describe(const Data*) {
+    return bond::record<Data>("tiv.echo.rova.Data", bond::field("prop", &Data::prop));
+}
+
+}  // namespace tiv::echo::rova

@@ -1,0 +1,18 @@
+// Assertion reports are part of what a test expects. Every test fails that ends with a report nobody
+// expected, or without one that it expected:
+//
+//     makeInternalData(14, db);
+//     EXPECT_EQ(takeReports(), Reports({R"(0 && "invalid prog_type" at echo/src/internal_data:120)"}));
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace test {
+
+using Reports = std::vector<std::string>;
+
+// The reports since the test began or since the last call, each as "<expression> at <source>:<line>".
+Reports takeReports();
+
+}  // namespace test

@@ -1,0 +1,23 @@
+// Design of quadrilateral elements; without any, no option applies.
+#include "echo/schema/dimvel.h"
+
+#include "echo/src/program_classes.h"
+
+namespace tiv::echo::data {
+namespace {
+
+constexpr OptionNumber brucOptions[] = {46, 47, 48, 49, 50, 51, 52};
+constexpr OptionNumber rissOptions[] = {46, 47, 48, 49, 50, 53, 54};
+
+constexpr Variant variants[] = {
+    variant<dimvel::BrucData>(EchoData::DIMVEL_BRUC, brucOptions),
+    variant<dimvel::RissData>(EchoData::DIMVEL_RISS, rissOptions),
+};
+
+constexpr Program program{variants, OtherTypes::Refused, {"echo/src/dimvel_data", 100}};
+
+}  // namespace
+
+DimvelData::DimvelData(EchoData::ProgrammTypes type, int database) : ProgramData(type, database, program) {}
+
+}  // namespace tiv::echo::data

@@ -1,0 +1,96 @@
+#include "echo/src/internal_data.h"
+
+#include "echo/src/program_classes.h"
+#include "tiv/dbo/dbo.h"
+#include "tiv/smartassert/smart_assert.h"
+
+namespace tiv::echo::data {
+namespace {
+
+// Labels and tooltips are found in the library's catalogue by their source texts.
+QString inCatalogue(const std::string& /*key*/, const char* sourceText) {
+    return EchoData::tr(sourceText);
+}
+
+template <class Program>
+std::shared_ptr<InternalInterface> make(EchoData::ProgrammTypes type, int database) {
+    return std::make_shared<Program>(type, database);
+}
+
+}  // namespace
+
+bool isOptionApplicable(const ElementTypeFlags& flags, int option) {
+    if (option < 5 || option > 54) return true;
+    if (option >= 46) return flags.quads;
+    switch (option) {
+        case 5:
+        case 16:
+            return flags.fixed0;
+        case 9:
+            return flags.fixed8;
+        case 12:
+        case 14:
+        case 21:
+        case 22:
+            return flags.beams;
+        case 15:
+            return flags.springs;
+        case 6:
+        case 7:
+        case 8:
+        case 10:
+        case 28:
+        case 30:
+            return true;
+        default:
+            break;
+    }
+    if (option >= 36) return true;
+    return flags.beams || flags.fixed5 || flags.cables;  // 11, 13, 17 to 20, 23 to 27, 29, 31 to 35
+}
+
+InternalInterface::InternalInterface(EchoData::ProgrammTypes type, int database)
+    : model(std::make_shared<container::model::Model>()),
+      properties(std::make_shared<properties::Properties>()),
+      selection(std::make_shared<properties::SelectionManager<container::model::Key>>()),
+      programType(type) {
+    properties->xlator = std::make_shared<translation::Xlator>(&inCatalogue);
+    flags.quads = dbo::hasQuads(database, nullptr);
+    flags.brics = dbo::hasBrics(database, nullptr);
+    flags.beams = dbo::hasBeams(database, nullptr);
+    flags.cables = dbo::hasCables(database, nullptr);
+    flags.springs = dbo::hasSprings(database, nullptr);
+}
+
+void InternalInterface::showOption(const std::string& key, int option) {
+    if (isOptionApplicable(flags, option)) visibleKeys.push_back(key);
+}
+
+const container::model::Key& recordKey() {
+    static const container::model::Key key(0);
+    return key;
+}
+
+std::shared_ptr<InternalInterface> makeInternalData(EchoData::ProgrammTypes type, int database) {
+    constexpr decltype(&make<DummyData>) programs[] = {
+        make<QsxData>,       // QSX_BRUC
+        make<QsxData>,       // QSX_RISS
+        make<QsxData>,       // QSX_ELPL
+        make<EskData>,       // ESK
+        make<EskData>,       // ESK_EIGE
+        make<DimvelData>,    // DIMVEL_BRUC
+        make<DimvelData>,    // DIMVEL_RISS
+        make<KSTData>,       // KST
+        make<VibrData>,      // VIBR
+        make<MexoraData>,    // MEXORA
+        make<Plax2Data>,     // PLAX2
+        make<TiviloadData>,  // TIVILOAD
+        make<KurtaData>,     // KURTA
+        make<RovaData>,      // ROVA
+    };
+    if (type < std::size(programs)) return programs[type](type, database);
+    smartassert::SmartAssert(R"(0 && "invalid prog_type")", "echo/src/internal_data", 120);
+    return make<DummyData>(type, database);
+}
+
+}  // namespace tiv::echo::data

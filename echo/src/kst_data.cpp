@@ -1,0 +1,21 @@
+// Construction stages.
+#include "echo/schema/kst.h"
+
+#include "echo/src/program_classes.h"
+
+namespace tiv::echo::data {
+namespace {
+
+constexpr OptionNumber options[] = {43, 44, 45};
+
+constexpr Variant variants[] = {
+    variant<kst::Data>(EchoData::KST, options),
+};
+
+constexpr Program program{variants, OtherTypes::AlsoInserted};
+
+}  // namespace
+
+KSTData::KSTData(EchoData::ProgrammTypes type, int database) : ProgramData(type, database, program) {}
+
+}  // namespace tiv::echo::data

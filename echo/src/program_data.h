@@ -1,0 +1,92 @@
+// The one mechanism behind every program's echo table. A program is told by plain data: its settings
+// records, the option number of each field, and what it does for a program type that is not its own.
+//
+//     constexpr OptionNumber options[] = {43, 44, 45};
+//     constexpr Variant variants[] = {variant<kst::Data>(EchoData::KST, options)};
+//     constexpr Program program{variants, OtherTypes::AlsoInserted};
+#pragma once
+
+#include "echo/src/internal_data.h"
+#include "echo/src/settings_string.h"
+#include "properties/nextgen/record_access.h"
+
+#include <cstddef>
+#include <span>
+
+namespace tiv::echo::data {
+
+// The row of the global option table (utils.h) that a field writes.
+struct OptionNumber {
+    // The field is shown under the key "prop.<field>" unless another one is given.
+    constexpr OptionNumber(int number, const char* shownAs = nullptr) : number(number), shownAs(shownAs) {}
+    int number;
+    const char* shownAs;
+};
+
+// One settings record of a program.
+struct Variant {
+    EchoData::ProgrammTypes type;
+    const properties::RecordAccess& (*record)();
+    // Replaces the record by the one that a settings string holds.
+    void (*insert)(container::model::Model&, const QString& text);
+    std::span<const OptionNumber> options;  // one per field, in field order
+};
+
+template <class Data>
+void insertSettings(container::model::Model& model, const QString& text) {
+    container::model::Transaction transaction(model);
+    const std::vector<Data> records = decodeSettings<Data>(text);
+    model.handle<Data>(recordKey()).modify() = records.size() == 1 ? records.front() : Data{};
+    transaction.end();
+}
+
+template <class Data, std::size_t N>
+constexpr Variant variant(EchoData::ProgrammTypes type, const OptionNumber (&options)[N]) {
+    static_assert(N == bond::fieldCount<decltype(Data::prop)>, "<=== every field needs its option number");
+    return {type, &properties::recordAccess<Data>, &insertSettings<Data>, options};
+}
+
+// What a table does that was made for a program type it has no record for.
+enum class OtherTypes {
+    Refused,       // no options; asking for its lines is reported as a failed assertion
+    Written,       // the first record is shown and written, but neither saved nor inserted
+    AlsoInserted,  // likewise, but insertXMLData works
+};
+
+struct ReportSite {
+    const char* source = nullptr;
+    int line = 0;
+};
+
+struct Program {
+    std::span<const Variant> variants;
+    OtherTypes otherTypes;
+    ReportSite refusal = {};  // of OtherTypes::Refused
+};
+
+class ProgramData : public InternalInterface {
+ public:
+    QString getXMLData() final;
+    void insertXMLData(const QString& text) final;
+    std::vector<QString> getTELINP(bool defaultsOnly, bool extensive, int language) final;
+
+    // The record and options in use; null for a refused program type.
+    const Variant* variant() const { return variant_; }
+
+ protected:
+    // `program` is constant data. Builds the options: the default record, its properties, visibleKeys.
+    ProgramData(EchoData::ProgrammTypes type, int database, const Program& program);
+
+ private:
+    bool servesType() const { return variant_ && variant_->type == programType; }
+
+    const Program& program_;
+    const Variant* variant_;
+};
+
+// The option fields of a record: those of the envelope's field `prop`.
+inline const bond::Struct& optionFields(const Variant& variant) {
+    return *variant.record().schema.rows.front().nested;
+}
+
+}  // namespace tiv::echo::data

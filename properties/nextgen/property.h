@@ -1,0 +1,55 @@
+// Property definitions: what the inspector knows of each field it may show. Made by from_bond from a
+// record's description; the texts are those of the description and live as long as the process.
+#pragma once
+
+#include "properties/nextgen/configuration.h"
+#include "properties/nextgen/record_access.h"
+#include "properties/translation/xlator.h"
+
+#include <QString>
+#include <QVariant>
+
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace tiv::properties {
+
+struct Property {
+    std::string key;          // path of field names from the record down to the field: "prop.full"
+    const char* displayName;  // source texts, translated where they are shown
+    const char* tooltip;      // null: none
+    const char* category;     // empty: shown without a heading
+    const char* columnWidth;  // null: none; else the least width of the value column in characters
+    int weight;               // lighter properties are shown first
+    Configuration configuration;
+    const RecordAccess* record;  // the record that holds the field
+    const bond::Row* field;
+    std::size_t offset;  // of the field's struct within the record, in bytes
+};
+
+// The properties of one record, in order of the schema.
+struct Properties {
+    std::vector<std::shared_ptr<Property>> list;
+    std::shared_ptr<translation::Xlator> xlator;  // null: source texts are shown as they are
+};
+
+// The texts of a property in the language of its set's translator.
+QString label(const Properties& properties, const Property& property);
+QString tooltip(const Properties& properties, const Property& property);  // null when it has none
+QString category(const Properties& properties, const Property& property);
+
+// The field's value in the record under `key`: int for an enumeration, else bool, int, unsigned int,
+// qlonglong, qulonglong, double or QString. Throws what Model::read throws.
+QVariant value(
+    const Property& property, const container::model::Model& model, const container::model::Key& key);
+// The field's value in a record with nothing set.
+QVariant defaultValue(const Property& property);
+// Sets the field in a transaction of its own. A text is converted to the field's type.
+// Throws std::runtime_error "Conversion failed." when the value does not fit the field, and what
+// Transaction and ObjectHandle::modify throw; the record is then unchanged.
+void setValue(const Property& property, container::model::Model& model, const container::model::Key& key,
+    const QVariant& value);
+
+}  // namespace tiv::properties

@@ -1,0 +1,35 @@
+// A settings record in the object model, for code that knows its description but not its type:
+//
+//     const RecordAccess& access = recordAccess<esk::Data>();
+//     const void* record = access.read(model, Key(0));           // "Unknown key.", "Type mismatch."
+//     Transaction transaction(model);
+//     void* changed = access.modify(model, Key(0));
+#pragma once
+
+#include "bond/schema.h"
+#include "properties/container/model.h"
+#include "properties/container/object_handle.h"
+#include "properties/container/transaction.h"
+
+namespace tiv::properties {
+
+struct RecordAccess {
+    const bond::Struct& schema;
+    void (*insertDefault)(container::model::Transaction&, const container::model::Key&);
+    const void* (*read)(const container::model::Model&, const container::model::Key&);
+    void* (*modify)(container::model::Model&, const container::model::Key&);
+};
+
+template <class Record>
+const RecordAccess& recordAccess() {
+    using namespace container::model;
+    static const RecordAccess access{
+        bond::structOf<Record>(),
+        [](Transaction& transaction, const Key& key) { transaction.insert(key, Record{}); },
+        [](const Model& model, const Key& key) -> const void* { return &model.read<Record>(key); },
+        [](Model& model, const Key& key) -> void* { return &model.handle<Record>(key).modify(); },
+    };
+    return access;
+}
+
+}  // namespace tiv::properties

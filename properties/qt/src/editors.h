@@ -1,0 +1,63 @@
+// The widgets that edit one property. A factory makes them by "editor.kind"; they are handed their value,
+// and give it back, through their user property.
+#pragma once
+
+#include "properties/nextgen/property.h"
+
+#include <QComboBox>
+#include <QString>
+#include <QVariant>
+#include <QWidget>
+
+#include <functional>
+#include <map>
+#include <memory>
+
+namespace tiv::properties {
+
+// Offers the entries of a named value list. Carries the value itself, so one that is not in the list
+// stays what it is until another is chosen.
+class NamedValueEditor : public QComboBox {
+    Q_OBJECT
+    Q_PROPERTY(QVariant value READ value WRITE setValue USER true)
+ public:
+    NamedValueEditor(QWidget* parent, std::shared_ptr<const Property> property);
+
+    QVariant value() const { return value_; }
+    void setValue(const QVariant& value);
+
+ signals:
+    void chosen();     // an entry was picked; value() is its value
+    void cancelled();  // the list was closed without a choice
+
+ protected:
+    void hidePopup() override;
+    void wheelEvent(QWheelEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+ private:
+    Branch editor() const { return property_->configuration.branch("editor"); }
+    void fill();
+    void choose(int index);
+
+    std::shared_ptr<const Property> property_;
+    QVariant value_;
+};
+
+class DefaultEditorFactory {
+ public:
+    using Maker = std::function<QWidget*(QWidget* parent, const std::shared_ptr<const Property>&)>;
+
+    // Knows "named_value_list", "boolean" and "text".
+    DefaultEditorFactory();
+    void add(const QString& kind, Maker maker) { makers_[kind] = std::move(maker); }
+
+    // The editor of the property's "editor.kind"; for none, or one that is not known here, a check box
+    // for a truth value and a text line for anything else. Owned by `parent`.
+    QWidget* create(QWidget* parent, const std::shared_ptr<const Property>& property) const;
+
+ private:
+    std::map<QString, Maker> makers_;
+};
+
+}  // namespace tiv::properties

@@ -1,0 +1,32 @@
+// What a property accepts, by "validator.kind".
+#pragma once
+
+#include "properties/nextgen/property.h"
+
+#include <QString>
+#include <QVariant>
+
+#include <functional>
+#include <map>
+#include <utility>
+
+namespace tiv::properties {
+
+class DefaultValidatorFactory {
+ public:
+    using Validator = std::function<bool(const QVariant&)>;
+    using Maker = std::function<Validator(const Branch& validator)>;
+
+    // Knows "named_value_list": exactly the values of the entries.
+    DefaultValidatorFactory();
+    void add(const QString& kind, Maker maker) { makers_[kind] = std::move(maker); }
+
+    // The validator of the property's "validator.kind". For none, or one that is not known here: with a
+    // "validator.precision", numbers of so many decimal places; else everything.
+    Validator create(const Property& property) const;
+
+ private:
+    std::map<QString, Maker> makers_;
+};
+
+}  // namespace tiv::properties

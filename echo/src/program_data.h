@@ -17,10 +17,10 @@ namespace tiv::echo::data {
 
 // The row of the global option table (utils.h) that a field writes.
 struct OptionNumber {
-    // The field is shown under the key "prop.<field>" unless another one is given.
-    constexpr OptionNumber(int number, const char* shownAs = nullptr) : number(number), shownAs(shownAs) {}
+    // Implicit, so that a table of options reads as a list of numbers.
+    constexpr OptionNumber(int row, const char* key = nullptr) : number(row), shownAs(key) {}
     int number;
-    const char* shownAs;
+    const char* shownAs;  // the key that is made visible; null: "prop.<field>"
 };
 
 // One settings record of a program.

@@ -1,5 +1,6 @@
 #include "properties/qt/src/editors.h"
 
+#include <QAbstractItemView>
 #include <QCheckBox>
 #include <QEvent>
 #include <QLineEdit>

@@ -1,0 +1,75 @@
+// The key of an object in a Model: any value that can be copied, compared, ordered and hashed.
+// Called by everyone who stores or reads an object; the settings record of an echo table has Key(0).
+//
+//     model.read<Properties>(0);
+//     model.read<Properties>("prop");   // text is always kept as std::string
+//
+// Keys of different types are never equal: Key(0) != Key(0u). They are ordered by type, in an order that
+// holds while the process runs.
+#pragma once
+
+#include <boost/container_hash/hash.hpp>
+#include <boost/mpl/vector.hpp>
+#include <boost/type_erasure/any.hpp>
+#include <boost/type_erasure/builtin.hpp>
+#include <boost/type_erasure/call.hpp>
+#include <boost/type_erasure/check_match.hpp>
+#include <boost/type_erasure/operators.hpp>
+#include <boost/type_erasure/relaxed.hpp>
+
+#include <concepts>
+#include <cstddef>
+#include <functional>
+#include <string>
+#include <string_view>
+
+namespace tiv::container::model {
+
+class Key;
+
+namespace detail {
+
+// "Can be hashed", in the form in which Boost.TypeErasure takes it.
+template <class T = boost::type_erasure::_self>
+struct Hashable {
+    static std::size_t apply(const T& value) { return boost::hash<T>{}(value); }
+};
+
+template <class T>
+concept Text = std::convertible_to<const T&, std::string_view>;
+
+// What a key can be made of, besides text. boost::hash must know the type, too.
+template <class T>
+concept KeyValue = !std::same_as<T, Key> && !Text<T> && std::copy_constructible<T> && std::totally_ordered<T>;
+
+}  // namespace detail
+
+class Key {
+ public:
+    // A copy of the value. Throws std::bad_alloc, and what copying the value throws.
+    template <detail::KeyValue T>
+    Key(const T& value) : value_(value) {}
+    template <detail::Text T>
+    Key(const T& text) : value_(std::string(std::string_view(text))) {}
+
+    // Members, so that comparing something else never asks whether that converts to a key.
+    bool operator==(const Key& other) const {
+        constexpr boost::type_erasure::equality_comparable<> equal;
+        return check_match(equal, value_, other.value_) && call(equal, value_, other.value_);
+    }
+    bool operator<(const Key& other) const { return value_ < other.value_; }
+    friend std::size_t hash_value(const Key& key) { return call(detail::Hashable<>(), key.value_); }
+
+ private:
+    boost::type_erasure::any<boost::mpl::vector<boost::type_erasure::copy_constructible<>,
+        boost::type_erasure::typeid_<>, boost::type_erasure::equality_comparable<>,
+        boost::type_erasure::less_than_comparable<>, detail::Hashable<>, boost::type_erasure::relaxed>>
+        value_;
+};
+
+}  // namespace tiv::container::model
+
+template <>
+struct std::hash<tiv::container::model::Key> {
+    std::size_t operator()(const tiv::container::model::Key& key) const { return hash_value(key); }
+};

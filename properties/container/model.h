@@ -1,0 +1,77 @@
+// The store of typed objects under keys, in which an echo table keeps its settings record. The program
+// tables insert and read it, the settings loader replaces it, the inspector reads and edits it.
+//
+//     Model model;
+//     Transaction filling(model);
+//     filling.insert(0, Properties{});
+//     filling.end();
+//     model.read<Properties>(0).full;            // DEFAULT_OUTPUT
+//     model.onChange([](const Changes& changes) { refresh(changes.modified); });
+//
+// Objects are inserted and erased by a Transaction and changed through an ObjectHandle, inside a
+// transaction as well. Reading needs none, and sees the changes of the open transaction. Failures are
+// std::runtime_error with the texts given here, and leave the model as it was. One thread at a time.
+#pragma once
+
+#include "properties/container/key.h"
+#include "properties/container/object.h"
+#include "properties/container/object_handle.h"
+
+#include <boost/signals2/connection.hpp>
+
+#include <functional>
+#include <memory>
+#include <typeinfo>
+#include <vector>
+
+namespace tiv::container::model {
+
+// What one transaction has changed, each list in the order in which the keys were first touched. `created`
+// were absent before and are present now, `erased` the other way round; `modified` are the others. A key
+// that was erased and inserted again is modified: its object, perhaps its type, is another one.
+struct Changes {
+    std::vector<Key> created, modified, erased;
+};
+
+class Model {
+ public:
+    // Throws std::bad_alloc.
+    Model();
+    Model(const Model&) = delete;
+    Model& operator=(const Model&) = delete;
+    // An open transaction keeps the objects: it can still be ended or dropped. Then handles have no model.
+    ~Model();
+
+    // The object under the key. "Unknown key." if there is none, "Type mismatch." if its type is not exactly
+    // T. The reference holds until the end of the transaction that erases the object.
+    template <Storable T>
+    const T& read(const Key& key) const {
+        return *static_cast<const T*>(find(key, typeid(T)).value.get());
+    }
+
+    // A handle on the object under the key; fails as read() does.
+    template <Storable T>
+    ObjectHandle<T> handle(const Key& key) {
+        return ObjectHandle<T>({store_, key, find(key, typeid(T)).value});
+    }
+
+    bool contains(const Key& key) const;
+
+    // The keys of all objects, in key order.
+    std::vector<Key> keys() const;
+
+    // Tells the observer of every later transaction that changed something, once, when it has ended and no
+    // transaction is open. An observer may read, run a transaction of its own, connect and disconnect
+    // (itself and others), and destroy model and transaction. The changes of a transaction that an observer
+    // runs are told before its remaining neighbours hear of the first one. What an observer throws, end()
+    // throws to its caller.
+    boost::signals2::connection onChange(std::function<void(const Changes&)> observer);
+
+ private:
+    friend class Transaction;
+    const detail::Object& find(const Key& key, const std::type_info& type) const;
+
+    std::shared_ptr<detail::Store> store_;
+};
+
+}  // namespace tiv::container::model

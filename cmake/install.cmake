@@ -1,0 +1,44 @@
+# What `cmake --install` puts where, and the package that find_package(tiv_echotable CONFIG) finds:
+# the targets tiv::echotable, tiv::dbo and tiv::smartassert.
+include_guard(GLOBAL)
+include(CMakePackageConfigHelpers)
+include(GNUInstallDirs)
+
+set(TIV_PACKAGE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/tiv_echotable)
+
+# tiv_install_library(<target> <name> <include dir>...): a shared library of the package. Consumers link
+# tiv::<name>, here as well as installed, and include below the public include directories.
+function(tiv_install_library target name)
+    add_library(tiv::${name} ALIAS ${target})
+    foreach(dir IN LISTS ARGN)
+        cmake_path(ABSOLUTE_PATH dir)
+        target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${dir}>)
+        install(DIRECTORY ${dir}/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} FILES_MATCHING PATTERN *.h)
+    endforeach()
+    set_target_properties(${target} PROPERTIES
+        EXPORT_NAME ${name}
+        VERSION ${PROJECT_VERSION}
+        SOVERSION ${PROJECT_VERSION_MAJOR}
+        INSTALL_RPATH $ORIGIN)
+    install(TARGETS ${target}
+        EXPORT tiv_echotable-targets
+        INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+endfunction()
+
+# tiv_install_program(<target>): a program that finds the libraries beside it.
+function(tiv_install_program target)
+    file(RELATIVE_PATH libraries ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_FULL_LIBDIR})
+    set_target_properties(${target} PROPERTIES INSTALL_RPATH $ORIGIN/${libraries})
+    install(TARGETS ${target})
+endfunction()
+
+configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/tiv_echotable-config.cmake.in
+    ${PROJECT_BINARY_DIR}/tiv_echotable-config.cmake
+    INSTALL_DESTINATION ${TIV_PACKAGE_DIR})
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/tiv_echotable-config-version.cmake
+    COMPATIBILITY SameMinorVersion)
+install(FILES
+    ${PROJECT_BINARY_DIR}/tiv_echotable-config.cmake
+    ${PROJECT_BINARY_DIR}/tiv_echotable-config-version.cmake
+    DESTINATION ${TIV_PACKAGE_DIR})
+install(EXPORT tiv_echotable-targets NAMESPACE tiv:: DESTINATION ${TIV_PACKAGE_DIR})

@@ -20,6 +20,11 @@ function(tiv_install_library target name)
         VERSION ${PROJECT_VERSION}
         SOVERSION ${PROJECT_VERSION_MAJOR}
         INSTALL_RPATH $ORIGIN)
+    if(UNIX AND NOT APPLE)
+        set(exported ${CMAKE_CURRENT_FUNCTION_LIST_DIR}/exported.map)
+        target_link_options(${target} PRIVATE LINKER:--version-script=${exported})
+        set_target_properties(${target} PROPERTIES LINK_DEPENDS ${exported})
+    endif()
     install(TARGETS ${target}
         EXPORT tiv_echotable-targets
         INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})

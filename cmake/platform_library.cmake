@@ -1,4 +1,3 @@
-include_guard(GLOBAL)
 include(GenerateExportHeader)
 include(${CMAKE_CURRENT_LIST_DIR}/install.cmake)
 

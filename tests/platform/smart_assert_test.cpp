@@ -1,0 +1,40 @@
+#include "tiv/smartassert/smart_assert.h"
+
+#include "support/reports.h"
+
+#include <gtest/gtest.h>
+
+namespace tiv::smartassert {
+namespace {
+
+// What a report writes to stderr while `reporter` is set.
+std::string errorOutput(Reporter reporter) {
+    const Reporter recorder = setReporter(std::move(reporter));
+    testing::internal::CaptureStderr();
+    SmartAssert("0 && \"text\"", "some/source", 7);
+    setReporter(recorder);
+    return testing::internal::GetCapturedStderr();
+}
+
+TEST(SmartAssert, goesToStderrWhereNoReporterTakesIt) {
+    constexpr const char* line = "some/source:7: assertion failed: 0 && \"text\"\n";
+    EXPECT_EQ(errorOutput({}), line);
+    EXPECT_EQ(errorOutput([](const Report&) { throw 1; }), line);
+    EXPECT_EQ(errorOutput([](const Report&) { SmartAssert("nested", "inner", 8); }),
+        "inner:8: assertion failed: nested\n");
+}
+
+TEST(SmartAssert, goesToTheReporterEvenIfThatOneSetsAnother) {
+    std::string heard;
+    const Reporter replacesItself = [&heard, keeper = std::string("0 && \"text\"")](const Report& report) {
+        EXPECT_TRUE(setReporter({}));
+        heard = keeper == report.expression ? keeper : "";
+    };
+    EXPECT_EQ(errorOutput(replacesItself), "");
+    EXPECT_EQ(heard, "0 && \"text\"");
+    SmartAssert("after all this", "some/source", 9);
+    EXPECT_EQ(test::takeReports(), test::Reports({"after all this at some/source:9"}));
+}
+
+}  // namespace
+}  // namespace tiv::smartassert

@@ -47,3 +47,6 @@ install(FILES
     ${PROJECT_BINARY_DIR}/tiv_echotable-config-version.cmake
     DESTINATION ${TIV_PACKAGE_DIR})
 install(EXPORT tiv_echotable-targets NAMESPACE tiv:: DESTINATION ${TIV_PACKAGE_DIR})
+
+# The exceptions that a host catches; complete in their header.
+install(FILES ${PROJECT_SOURCE_DIR}/bond/exceptions.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/bond)

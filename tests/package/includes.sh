@@ -1,0 +1,17 @@
+#!/usr/bin/env bash
+# No room of the house includes one above it: apps -> echo -> properties -> bond, and echo -> platform.
+cd "$1" || exit
+failed=0
+while read -r room forbidden; do
+    grep -rnE --include='*.h' --include='*.cpp' "^ *# *include +[<\"]($forbidden)" "$room"
+    [ $? = 1 ] || { echo "$room: must exist, and include nothing that begins with $forbidden" && failed=1; }
+done <<'RULES'
+echo                  apps/
+properties            apps/|echo/|platform/|tiv/
+properties/container  properties/(nextgen|qt|translation)/|nextgen/|bond/|Q
+bond                  apps/|echo/|platform/|tiv/|properties/|nextgen/|Q
+platform              apps/|echo/|tiv/echo/|properties/|nextgen/|bond/
+platform/dbo          Q
+platform/smartassert  Q|tiv/dbo/
+RULES
+exit $failed

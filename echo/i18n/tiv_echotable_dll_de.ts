@@ -264,8 +264,96 @@
         <translation>Wert</translation>
     </message>
     <message>
-        <source>This value is not offered.</source>
-        <translation>Dieser Wert wird nicht angeboten.</translation>
+        <source>Output options</source>
+        <translation>Ausgabeoptionen</translation>
+    </message>
+    <message>
+        <source>%1 (not offered)</source>
+        <translation>%1 (nicht angeboten)</translation>
+    </message>
+    <message>
+        <source>Keyword: %1</source>
+        <translation>Schlüsselwort: %1</translation>
+    </message>
+    <message>
+        <source>Default: %1</source>
+        <translation>Vorgabe: %1</translation>
+    </message>
+    <message>
+        <source>Changed. Default: %1</source>
+        <translation>Geändert. Vorgabe: %1</translation>
+    </message>
+    <message>
+        <source>The stored value %1 is not offered. It stays until another one is chosen.</source>
+        <translation>Der gespeicherte Wert %1 wird nicht angeboten. Er bleibt, bis ein anderer gewählt wird.</translation>
+    </message>
+    <message>
+        <source>Numeric level %1: kept with the settings, but the input text has no keyword for it, so no line is written.</source>
+        <translation>Zahlenstufe %1: wird mit den Einstellungen gespeichert, aber der Eingabetext hat kein Schlüsselwort dafür, daher wird keine Zeile geschrieben.</translation>
+    </message>
+    <message>
+        <source>Reset to default</source>
+        <translation>Auf Vorgabe zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Reset all shown (%1)</source>
+        <translation>Alle angezeigten zurücksetzen (%1)</translation>
+    </message>
+    <message>
+        <source>Set to</source>
+        <translation>Setzen auf</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Copy settings</source>
+        <translation>Einstellungen kopieren</translation>
+    </message>
+    <message>
+        <source>Paste settings</source>
+        <translation>Einstellungen einfügen</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtern</translation>
+    </message>
+    <message>
+        <source>Changed only</source>
+        <translation>Nur geänderte</translation>
+    </message>
+    <message>
+        <source>No option matches the filter.</source>
+        <translation>Keine Option passt zum Filter.</translation>
+    </message>
+    <message>
+        <source>No option applies.</source>
+        <translation>Keine Option ist anwendbar.</translation>
+    </message>
+    <message>
+        <source>Not offered for: %1</source>
+        <translation>Nicht angeboten für: %1</translation>
+    </message>
+    <message>
+        <source>Not changed: %1</source>
+        <translation>Nicht geändert: %1</translation>
+    </message>
+    <message>
+        <source>These settings can no longer be changed.</source>
+        <translation>Diese Einstellungen können nicht mehr geändert werden.</translation>
+    </message>
+    <message>
+        <source>The clipboard does not hold settings.</source>
+        <translation>Die Zwischenablage enthält keine Einstellungen.</translation>
     </message>
 </context>
 </TS>

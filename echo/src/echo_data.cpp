@@ -10,7 +10,7 @@ EchoData::EchoData(ProgrammTypes type, int database) : data(data::makeInternalDa
 EchoData::~EchoData() = default;
 
 QWidget* EchoData::createPropertyInspector(QWidget* parent) {
-    return data::makeInspector(*data, parent);
+    return data::makeInspector(data, parent);
 }
 
 std::vector<QString> EchoData::getTELINP(bool defaultsOnly, bool extensive, int language) {

@@ -4,19 +4,57 @@
 #include "echo/src/levels.h"
 #include "properties/qt/src/qt_inspector_widget.h"
 
+#include <QByteArray>
+
 #include <algorithm>
+#include <stdexcept>
 
 namespace tiv::echo::data {
+namespace {
 
-QWidget* makeInspector(InternalInterface& table, QWidget* parent) {
-    offerLevels(*table.properties);
-    auto* inspector =
-        new properties::QtInspectorWidget(parent, table.properties, table.selection, table.model);
-    inspector->setPropertyFilterFunction([keys = table.visibleKeys](const std::string& key) {
+using WeakTable = std::weak_ptr<InternalInterface>;
+
+bool isBase64(const QString& line) {
+    return !QByteArray::fromBase64Encoding(line.toLatin1(), QByteArray::AbortOnBase64DecodingErrors)
+                .decoded.isEmpty();
+}
+
+// The loader is lenient with what a host has stored; a clipboard may hold anything, and a text of two
+// lines, or one that only happens to be read, would reset every option.
+void paste(InternalInterface& table, const QString& text) {
+    const QString line = text.trimmed();
+    const bool oneRecord =
+        !line.contains(QLatin1Char('\n')) && (line.startsWith(QLatin1Char('{')) || isBase64(line));
+    if (!oneRecord)
+        throw std::invalid_argument(EchoData::tr("The clipboard does not hold settings.").toStdString());
+    table.insertXMLData(line);
+}
+
+properties::InspectorHost host(
+    const WeakTable& weak, const std::shared_ptr<properties::Properties>& properties) {
+    return {
+        [weak] { return !weak.expired(); },
+        [properties] { offerLevels(*properties); },
+        [weak] {
+            const auto table = weak.lock();
+            return table ? table->getXMLData() : QString();
+        },
+        [weak](const QString& text) {
+            if (const auto table = weak.lock()) paste(*table, text);
+        },
+    };
+}
+
+}  // namespace
+
+QWidget* makeInspector(const std::shared_ptr<InternalInterface>& table, QWidget* parent) {
+    offerLevels(*table->properties);
+    auto* inspector = new properties::QtInspectorWidget(
+        parent, table->properties, table->selection, table->model, host(table, table->properties));
+    inspector->setPropertyFilterFunction([keys = table->visibleKeys](const std::string& key) {
         return std::find(keys.begin(), keys.end(), key) != keys.end();
     });
-    inspector->setRetranslateFunction([properties = table.properties] { offerLevels(*properties); });
-    table.selection->select(recordKey());
+    table->selection->select(recordKey());
     return inspector;
 }
 

@@ -48,12 +48,40 @@ std::vector<properties::NamedValue> offeredLevels(const std::string& key) {
     return entries;
 }
 
+namespace {
+
+// How every level reads, for values that are stored though they are not offered.
+properties::NamedValues levelNames() {
+    auto names = std::make_shared<std::vector<properties::NamedValue>>();
+    for (const bond::Enumerator& level : outPutTypes)
+        names->push_back({levelText(static_cast<OutPutType>(level.value)), level.value});
+    return names;
+}
+
+// What a level does not say of itself.
+properties::NamedValues levelExplanations() {
+    auto texts = std::make_shared<std::vector<properties::NamedValue>>();
+    for (const OutPutType level : {FOUR, FIVE, SIX, SEVEN})
+        texts->push_back({EchoData::tr("Numeric level %1: kept with the settings, but the input text has no "
+                                       "keyword for it, so no line is written.")
+                              .arg(levelText(level)),
+            int{level}});
+    return texts;
+}
+
+}  // namespace
+
 void offerLevels(properties::Properties& properties) {
+    const properties::NamedValues names = levelNames();
+    const properties::NamedValues explanations = levelExplanations();
     for (const auto& property : properties.list) {
         const auto entries =
             std::make_shared<const std::vector<properties::NamedValue>>(offeredLevels(property->key));
-        property->configuration.set("editor.entries", entries);
-        property->configuration.set("validator.entries", entries);
+        properties::Configuration& configuration = property->configuration;
+        configuration.set("editor.entries", entries);
+        configuration.set("validator.entries", entries);
+        configuration.set("editor.names", names);
+        configuration.set("editor.explanations", explanations);
     }
 }
 

@@ -16,6 +16,13 @@ const Variant* variantFor(const Program& program, EchoData::ProgrammTypes type) 
     return program.otherTypes == OtherTypes::Refused ? nullptr : program.variants.data();
 }
 
+// Both keywords of an option, "REAC, REAK", or the one that it has in both languages.
+QString keywords(int option) {
+    const QString english = optionText(option, 1).keyword;
+    const QString german = optionText(option, 0).keyword;
+    return english == german ? english : english + QStringLiteral(", ") + german;
+}
+
 }  // namespace
 
 ProgramData::ProgramData(EchoData::ProgrammTypes type, int database, const Program& program)
@@ -31,6 +38,7 @@ ProgramData::ProgramData(EchoData::ProgrammTypes type, int database, const Progr
 
     for (const bond::Row& field : optionFields(*variant_).rows) {
         const OptionNumber& option = variant_->options[field.id];
+        properties->list[field.id]->configuration.set("inspector.keyword", keywords(option.number));
         showOption(option.shownAs ? option.shownAs : std::string("prop.") + field.name, option.number);
     }
 }

@@ -5,6 +5,9 @@
 
 #include <QByteArray>
 
+#include <cstddef>
+#include <span>
+
 namespace tiv::echo::data {
 
 SettingsForm settingsForm(const QString& text) {
@@ -17,6 +20,25 @@ QStringView nextLine(QStringView& rest) {
     const QStringView line = end < 0 ? rest : rest.left(end);
     rest = rest.mid(line.size());
     return line;
+}
+
+QString settingsString(const bond::Struct& schema, const void* record) {
+    bond::Bytes bytes;
+    bond::writeCompactBinary(schema, record, bytes);
+    const auto raw =
+        QByteArray::fromRawData(reinterpret_cast<const char*>(bytes.data()), static_cast<int>(bytes.size()));
+    return QString::fromLatin1(raw.toBase64().append('\n'));
+}
+
+void readSettingsLine(SettingsForm form, QStringView line, const bond::Struct& schema, void* record) {
+    if (form == SettingsForm::Json) {
+        const QByteArray text = line.toUtf8();
+        bond::readSimpleJson(schema, record, {text.constData(), static_cast<std::size_t>(text.size())});
+        return;
+    }
+    const QByteArray bytes = QByteArray::fromBase64(line.toLatin1());
+    bond::readCompactBinary(
+        schema, record, std::as_bytes(std::span(bytes.constData(), static_cast<std::size_t>(bytes.size()))));
 }
 
 }  // namespace tiv::echo::data

@@ -1,5 +1,7 @@
 #include "properties/nextgen/property.h"
 
+#include "bond/member.h"
+
 #include <cmath>
 #include <limits>
 #include <stdexcept>
@@ -18,43 +20,6 @@ QString translated(const Properties& properties, const std::string& key, const c
 
 [[noreturn]] void conversionFailed() {
     throw std::runtime_error("Conversion failed.");
-}
-
-// Calls `visit` with the field's member as a pointer of its own type.
-template <class Byte, class Visit>
-auto visitMember(const bond::Row& field, Byte* record, Visit visit) {
-    const auto as = [&]<class T>(T) {
-        return visit(static_cast<std::conditional_t<std::is_const_v<Byte>, const T, T>*>(field.in(record)));
-    };
-    switch (field.type) {
-        case bond::Type::Bool:
-            return as(bool{});
-        case bond::Type::Int8:
-            return as(std::int8_t{});
-        case bond::Type::Int16:
-            return as(std::int16_t{});
-        case bond::Type::Int64:
-            return as(std::int64_t{});
-        case bond::Type::UInt8:
-            return as(std::uint8_t{});
-        case bond::Type::UInt16:
-            return as(std::uint16_t{});
-        case bond::Type::UInt32:
-            return as(std::uint32_t{});
-        case bond::Type::UInt64:
-            return as(std::uint64_t{});
-        case bond::Type::Float:
-            return as(float{});
-        case bond::Type::Double:
-            return as(double{});
-        case bond::Type::String:
-            return as(std::string{});
-        case bond::Type::Int32:
-        case bond::Type::Enum:
-        case bond::Type::Struct:
-            break;  // a struct is entered by from_bond and is never a field here
-    }
-    return as(std::int32_t{});
 }
 
 template <class T>
@@ -88,21 +53,21 @@ T converted(const QVariant& value) {
 }
 
 QVariant read(const bond::Row& field, const void* record) {
-    return visitMember(field, record, [](const auto* member) -> QVariant {
-        using T = std::remove_cv_t<std::remove_pointer_t<decltype(member)>>;
+    return bond::visitMember(field, record, []<class T>(const T& member) -> QVariant {
         if constexpr (std::is_same_v<T, std::string>)
-            return QString::fromStdString(*member);
+            return QString::fromStdString(member);
         else if constexpr (std::is_same_v<T, bool>)
-            return *member;
+            return member;
         else if constexpr (std::is_floating_point_v<T>)
-            return double{*member};
-        else if constexpr (sizeof(T) == 8)
-            return std::is_signed_v<T> ? QVariant(static_cast<qlonglong>(*member))
-                                       : QVariant(static_cast<qulonglong>(*member));
+            return double{member};
+        else if constexpr (std::is_same_v<T, std::int64_t>)
+            return static_cast<qlonglong>(member);
+        else if constexpr (std::is_same_v<T, std::uint64_t>)
+            return static_cast<qulonglong>(member);
         else if constexpr (std::is_same_v<T, std::uint32_t>)
-            return QVariant(*member);
+            return member;
         else
-            return QVariant(int{*member});
+            return int{member};
     });
 }
 
@@ -132,12 +97,14 @@ QVariant defaultValue(const Property& property) {
     return read(*property.field, structAt(property, property.record->schema.defaults));
 }
 
-void setValue(const Property& property, Model& model, const Key& key, const QVariant& value) {
+void setValues(std::span<const PropertyValue> values, Model& model, const Key& key) {
     Transaction transaction(model);
-    void* record = static_cast<std::byte*>(property.record->modify(model, key)) + property.offset;
-    visitMember(*property.field, record, [&](auto* member) {
-        *member = converted<std::remove_pointer_t<decltype(member)>>(value);
-    });
+    for (const PropertyValue& change : values) {
+        const Property& property = *change.property;
+        void* record = static_cast<std::byte*>(property.record->modify(model, key)) + property.offset;
+        bond::visitMember(
+            *property.field, record, [&]<class T>(T& member) { member = converted<T>(change.value); });
+    }
     transaction.end();
 }
 

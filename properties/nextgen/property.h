@@ -11,6 +11,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -46,10 +47,15 @@ QVariant value(
     const Property& property, const container::model::Model& model, const container::model::Key& key);
 // The field's value in a record with nothing set.
 QVariant defaultValue(const Property& property);
-// Sets the field in a transaction of its own. A text is converted to the field's type.
-// Throws std::runtime_error "Conversion failed." when the value does not fit the field, and what
+
+struct PropertyValue {
+    std::shared_ptr<const Property> property;
+    QVariant value;
+};
+// Sets the fields of one record in one transaction. A text is converted to the field's type.
+// Throws std::runtime_error "Conversion failed." when a value does not fit its field, and what
 // Transaction and ObjectHandle::modify throw; the record is then unchanged.
-void setValue(const Property& property, container::model::Model& model, const container::model::Key& key,
-    const QVariant& value);
+void setValues(
+    std::span<const PropertyValue> values, container::model::Model& model, const container::model::Key& key);
 
 }  // namespace tiv::properties

@@ -76,10 +76,16 @@ class OuterRecord : public testing::Test {
         recordAccess<sample::Outer>().insertDefault(transaction, key);
         transaction.end();
     }
-    const Property& property(const std::string& name) const {
+    std::shared_ptr<const Property> find(const std::string& name) const {
         for (const auto& p : properties.list)
-            if (p->key == name) return *p;
+            if (p->key == name) return p;
         throw std::logic_error("no property " + name);
+    }
+    const Property& property(const std::string& name) const { return *find(name); }
+    void set(const std::string& name, const QVariant& value) {
+        // With another field first: all or nothing.
+        const PropertyValue changes[] = {{find("name"), "other"}, {find(name), value}};
+        setValues(changes, model, key);
     }
 
     Properties properties;
@@ -149,13 +155,15 @@ TEST_F(OuterRecord, KeepsAValueThatFitsAndRefusesOneThatDoesNot) {
         const QVariant before = value(edited, model, key);
         EXPECT_EQ(before, defaultValue(edited));
         try {
-            setValue(edited, model, key, row.value);
+            set(row.key, row.value);
             EXPECT_EQ(value(edited, model, key), row.stored) << row.key;
-            setValue(edited, model, key, before);
+            set(row.key, before);
+            set("name", "beam");
         } catch (const std::runtime_error& problem) {
             EXPECT_STREQ(problem.what(), "Conversion failed.");
             EXPECT_FALSE(row.stored.isValid()) << row.key;
             EXPECT_EQ(value(edited, model, key), before);
+            EXPECT_EQ(value(property("name"), model, key), "beam");
         }
     }
 }

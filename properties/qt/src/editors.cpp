@@ -7,8 +7,6 @@
 #include <QTimer>
 #include <QWheelEvent>
 
-#include <utility>
-
 namespace tiv::properties {
 
 NamedValueEditor::NamedValueEditor(QWidget* parent, std::shared_ptr<const Property> property)
@@ -19,30 +17,39 @@ NamedValueEditor::NamedValueEditor(QWidget* parent, std::shared_ptr<const Proper
 
 void NamedValueEditor::setValue(const QVariant& value) {
     value_ = value;
-    const auto* isEqual = editor().get<IsEqual>("is_equal");
+    const auto* isEqual = property_->configuration.get<IsEqual>("editor.is_equal");
     int index = count() - 1;
     while (index >= 0 && !(isEqual ? (*isEqual)(itemData(index), value) : itemData(index) == value)) --index;
     setCurrentIndex(index);
-    if (index < 0) setPlaceholderText(value.toString());
 }
 
+// Keeps the choice: only the texts differ from one call to the next.
 void NamedValueEditor::fill() {
-    const auto* entries = editor().get<NamedValues>("entries");
-    clear();
+    const auto* entries = property_->configuration.get<NamedValues>("editor.entries");
     if (!entries) return;
-    for (const NamedValue& entry : **entries) addItem(entry.text, entry.value);
+    for (int i = 0; i < static_cast<int>((*entries)->size()); ++i) {
+        const NamedValue& entry = (**entries)[static_cast<std::size_t>(i)];
+        if (i < count())
+            setItemText(i, entry.text);
+        else
+            addItem(entry.text, entry.value);
+    }
 }
 
 void NamedValueEditor::choose(int index) {
     value_ = itemData(index);
+    isChosen_ = true;
     emit chosen();
 }
 
 void NamedValueEditor::hidePopup() {
-    const bool open = view()->isVisible();
+    const bool wasOpen = view()->isVisible();
     QComboBox::hidePopup();
     // A choice is signalled right after the list is hidden: wait for it.
-    if (open) QTimer::singleShot(0, this, &NamedValueEditor::cancelled);
+    if (wasOpen)
+        QTimer::singleShot(0, this, [this] {
+            if (!isChosen_) emit cancelled();
+        });
 }
 
 // The wheel scrolls the inspector; it never changes a value.
@@ -52,10 +59,7 @@ void NamedValueEditor::wheelEvent(QWheelEvent* event) {
 
 void NamedValueEditor::changeEvent(QEvent* event) {
     QComboBox::changeEvent(event);
-    if (event->type() != QEvent::LanguageChange) return;
-    const auto* entries = editor().get<NamedValues>("entries");
-    if (!entries || static_cast<int>((*entries)->size()) != count()) return;
-    for (int i = 0; i < count(); ++i) setItemText(i, (**entries)[static_cast<std::size_t>(i)].text);
+    if (event->type() == QEvent::LanguageChange) fill();
 }
 
 DefaultEditorFactory::DefaultEditorFactory() {

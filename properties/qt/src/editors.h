@@ -12,6 +12,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <utility>
 
 namespace tiv::properties {
 
@@ -36,12 +37,12 @@ class NamedValueEditor : public QComboBox {
     void changeEvent(QEvent* event) override;
 
  private:
-    Branch editor() const { return property_->configuration.branch("editor"); }
     void fill();
     void choose(int index);
 
     std::shared_ptr<const Property> property_;
     QVariant value_;
+    bool isChosen_ = false;
 };
 
 class DefaultEditorFactory {

@@ -1,103 +1,395 @@
 #include "properties/qt/src/qt_inspector_widget.h"
 
-#include "properties/qt/src/editors.h"
+#include "properties/qt/src/property_delegate.h"
+#include "properties/qt/src/property_view.h"
 #include "properties/qt/src/record_item_model.h"
+#include "properties/qt/src/validators.h"
 
+#include <QAction>
+#include <QApplication>
+#include <QCheckBox>
+#include <QClipboard>
 #include <QEvent>
-#include <QHeaderView>
+#include <QHBoxLayout>
+#include <QItemSelectionModel>
+#include <QKeyEvent>
 #include <QLabel>
-#include <QStyledItemDelegate>
-#include <QTimer>
-#include <QTreeView>
+#include <QLineEdit>
+#include <QMenu>
+#include <QUndoCommand>
 #include <QVBoxLayout>
 
+#include <algorithm>
+#include <exception>
 #include <utility>
 
 namespace tiv::properties {
 namespace {
 
-// Makes the editors; Qt hands values through their user property.
-class PropertyDelegate : public QStyledItemDelegate {
- public:
-    PropertyDelegate(RecordItemModel* rows, QObject* parent) : QStyledItemDelegate(parent), rows_(rows) {}
-
-    QWidget* createEditor(
-        QWidget* parent, const QStyleOptionViewItem&, const QModelIndex& index) const override {
-        const auto property = rows_->property(index);
-        if (!property) return nullptr;
-        QWidget* editor = factory_.create(parent, property);
-        editor->setAccessibleName(index.siblingAtColumn(RecordItemModel::LabelColumn).data().toString());
-        if (auto* list = qobject_cast<NamedValueEditor*>(editor)) handle(list);
-        return editor;
-    }
-
- private:
-    // A choice is written at once, and the list is open from the start.
-    void handle(NamedValueEditor* list) const {
-        auto* self = const_cast<PropertyDelegate*>(this);
-        connect(list, &NamedValueEditor::chosen, self, [self, list] {
-            emit self->commitData(list);
-            emit self->closeEditor(list);
-        });
-        connect(list, &NamedValueEditor::cancelled, self, [self, list] { emit self->closeEditor(list); });
-        QTimer::singleShot(0, list, &QComboBox::showPopup);
-    }
-
-    RecordItemModel* rows_;
-    DefaultEditorFactory factory_;
+// One undo step. Plain data: the inspector writes it, so that a step that cannot be taken is not taken.
+struct Step : public QUndoCommand {
+    Step(std::vector<PropertyValue> from, std::vector<PropertyValue> to)
+        : before(std::move(from)), after(std::move(to)) {}
+    const std::vector<PropertyValue> before, after;
 };
+
+// Without case and accents: "Träger" and "TRAGER" fold to the same.
+QString folded(const QString& text) {
+    QString result;
+    for (const QChar c : text.normalized(QString::NormalizationForm_KD))
+        if (c.category() != QChar::Mark_NonSpacing) result += c;
+    return result.toCaseFolded();
+}
+
+std::vector<PropertyValue> valuesOf(
+    const RecordItemModel& rows, const std::vector<std::shared_ptr<Property>>& list) {
+    std::vector<PropertyValue> values;
+    for (const auto& property : list) values.push_back({property, rows.current(*property)});
+    return values;
+}
 
 }  // namespace
 
 QtInspectorWidget::QtInspectorWidget(QWidget* parent, std::shared_ptr<Properties> properties,
     std::shared_ptr<SelectionManager<container::model::Key>> selection,
-    std::shared_ptr<container::model::Model> model)
+    std::shared_ptr<container::model::Model> model, InspectorHost host)
     : QWidget(parent),
-      rows_(new RecordItemModel(std::move(properties), std::move(model), std::move(selection), this)),
-      view_(new QTreeView(this)),
-      message_(new QLabel(this)) {
+      rows_(new RecordItemModel(
+          properties, std::move(model), std::move(selection),
+          host.isEditable ? host.isEditable : [] { return true; }, this)),
+      view_(new PropertyView(this)),
+      host_(std::move(host)),
+      properties_(std::move(properties)) {
+    auto* delegate = new PropertyDelegate(view_);
+    view_->setItemDelegate(delegate);
     view_->setModel(rows_);
-    view_->setItemDelegate(new PropertyDelegate(rows_, view_));
-    view_->setRootIsDecorated(false);
-    view_->setUniformRowHeights(true);
-    view_->setAlternatingRowColors(true);
-    view_->setAllColumnsShowFocus(true);
-    view_->setEditTriggers(QAbstractItemView::EditKeyPressed | QAbstractItemView::AnyKeyPressed);
-    view_->header()->setSectionsMovable(false);
-    connect(view_, &QTreeView::clicked, this, &QtInspectorWidget::edit);
-    message_->setWordWrap(true);
-    message_->hide();
-    connect(rows_, &RecordItemModel::refused, this, &QtInspectorWidget::showMessage);
-    connect(rows_, &RecordItemModel::dataChanged, message_, &QWidget::hide);
+    view_->setContextMenuPolicy(Qt::CustomContextMenu);
+    view_->installEventFilter(this);
+    connect(delegate, &PropertyDelegate::entered, this, &QtInspectorWidget::onEntered);
+    connect(view_, &QTreeView::clicked, this, &QtInspectorWidget::onClicked);
+    connect(view_, &QWidget::customContextMenuRequested, this, &QtInspectorWidget::showMenu);
+    connect(view_, &PropertyView::resetRequested, this, [this] { reset(selectedProperties()); });
+    connect(rows_, &RecordItemModel::recordChanged, this, &QtInspectorWidget::onRecordChanged);
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(view_);
-    layout->addWidget(message_);
     setFocusProxy(view_);
-    arrange();
+    setAccessibleName(rows_->text("Output options"));
+    view_->setAccessibleName(accessibleName());
+    updatePlaceholder();
 }
 
 void QtInspectorWidget::setPropertyFilterFunction(const std::function<bool(const std::string&)>& shows) {
-    rows_->setFilter(shows);
-    arrange();
-}
-
-void QtInspectorWidget::setRetranslateFunction(std::function<void()> retranslate) {
-    retranslate_ = std::move(retranslate);
-}
-
-void QtInspectorWidget::arrange() {
+    rows_->show(shows);
     for (int row = 0; row < rows_->rowCount(); ++row)
         if (!rows_->property(rows_->index(row, 0))) view_->setFirstColumnSpanned(row, {}, true);
-    view_->resizeColumnToContents(RecordItemModel::LabelColumn);
+    filterRows();
+    view_->measureAgain();
 }
 
-void QtInspectorWidget::edit(const QModelIndex& index) {
-    if (index.flags() & Qt::ItemIsEditable) view_->edit(index);
+// ---- what the engineer does ----
+
+void QtInspectorWidget::onClicked(const QModelIndex& index) {
+    if (QApplication::keyboardModifiers() & (Qt::ControlModifier | Qt::ShiftModifier))
+        return;  // selects rows
+    const auto property = rows_->property(index);
+    if (!property) return;
+    if (index.column() == RecordItemModel::ResetColumn)
+        reset({property});
+    else
+        view_->editRow(index);
 }
 
-void QtInspectorWidget::showMessage(const QString& text) {
+// Written with the next event, when the editor and the mouse have done with us: an observer of the record
+// may destroy the inspector.
+void QtInspectorWidget::onEntered(const QModelIndex& index, const QVariant& value) {
+    const auto property = rows_->property(index);
+    auto targets = selectedProperties();
+    if (std::find(targets.begin(), targets.end(), property) == targets.end()) targets = {property};
+    QMetaObject::invokeMethod(
+        this, [this, targets, value] { choose(targets, value); }, Qt::QueuedConnection);
+}
+
+// With `onlyAsk`, says whether the key would do something here; otherwise it is the host's.
+bool QtInspectorWidget::onKey(const QKeyEvent& event, bool onlyAsk) {
+    const auto does = [&](bool possible, auto action) {
+        if (possible && !onlyAsk) action();
+        return possible;
+    };
+    auto& key = const_cast<QKeyEvent&>(event);
+    if (key.matches(QKeySequence::Undo)) return does(undo_.canUndo(), [&] { undo(); });
+    if (key.matches(QKeySequence::Redo) || (key.key() == Qt::Key_Y && key.modifiers() == Qt::ControlModifier))
+        return does(undo_.canRedo(), [&] { redo(); });
+    if (key.matches(QKeySequence::Copy)) return does(true, [&] { copyRows(); });
+    if (key.matches(QKeySequence::Paste)) return does(bool(host_.pasteSettings), [&] { pasteSettings(); });
+    if (key.matches(QKeySequence::Find)) return does(true, [&] { showFilter(); });
+    if (key.key() == Qt::Key_Escape && key.modifiers() == Qt::NoModifier)
+        return does(filterBar_ && filterBar_->isVisible(), [&] { hideFilter(); });
+    return false;
+}
+
+bool QtInspectorWidget::eventFilter(QObject* watched, QEvent* event) {
+    const bool asks = event->type() == QEvent::ShortcutOverride;
+    if (!asks && event->type() != QEvent::KeyPress) return false;
+    auto* key = static_cast<QKeyEvent*>(event);
+    if (watched == query_) {
+        if (asks || key->key() != Qt::Key_Escape) return false;
+        query_->text().isEmpty() ? hideFilter() : query_->clear();
+        return true;
+    }
+    if (watched != view_ || !onKey(*key, asks)) return false;
+    event->accept();
+    return true;
+}
+
+void QtInspectorWidget::showMenu(const QPoint& position) {
+    const auto selected = selectedProperties();
+    const auto changed = shownChanged();
+    const bool editable = rows_->isEditable();
+    QMenu menu(this);
+    const auto add = [&](const QString& text, bool enabled, auto action) {
+        QAction* entry = menu.addAction(text);
+        entry->setEnabled(enabled);
+        connect(entry, &QAction::triggered, this, action, Qt::QueuedConnection);
+    };
+    addLevelMenu(menu, selected);
+    add(rows_->text("Reset to default"), editable && !selected.empty(), [this, selected] {
+        reset(selected);
+    });
+    add(rows_->text("Reset all shown (%1)").arg(changed.size()),
+        editable && !changed.empty(),
+        [this, changed] { reset(changed); });
+    menu.addSeparator();
+    add(rows_->text("Undo"), editable && undo_.canUndo(), [this] { undo(); });
+    add(rows_->text("Redo"), editable && undo_.canRedo(), [this] { redo(); });
+    menu.addSeparator();
+    add(rows_->text("Copy"), !selected.empty(), [this] { copyRows(); });
+    if (host_.copySettings) add(rows_->text("Copy settings"), editable, [this] { copySettings(); });
+    if (host_.pasteSettings) add(rows_->text("Paste settings"), editable, [this] { pasteSettings(); });
+    menu.addSeparator();
+    add(rows_->text("Filter"), true, [this] { showFilter(); });
+    menu.exec(view_->viewport()->mapToGlobal(position));
+}
+
+void QtInspectorWidget::addLevelMenu(
+    QMenu& menu, const std::vector<std::shared_ptr<const Property>>& targets) {
+    QMenu* levels = menu.addMenu(rows_->text("Set to"));
+    std::vector<NamedValue> offered;
+    for (const auto& property : targets) {
+        const auto* entries = property->configuration.get<NamedValues>("editor.entries");
+        if (!entries) continue;
+        for (const NamedValue& entry : **entries) {
+            const auto same = [&](const NamedValue& known) { return known.value == entry.value; };
+            if (std::none_of(offered.begin(), offered.end(), same)) offered.push_back(entry);
+        }
+    }
+    for (const NamedValue& entry : offered)
+        connect(
+            levels->addAction(entry.text),
+            &QAction::triggered,
+            this,
+            [this, targets, value = entry.value] { choose(targets, value); },
+            Qt::QueuedConnection);
+    levels->setEnabled(rows_->isEditable() && !offered.empty());
+}
+
+std::vector<std::shared_ptr<const Property>> QtInspectorWidget::selectedProperties() const {
+    QModelIndexList indexes = view_->selectionModel()->selectedRows();
+    std::sort(indexes.begin(), indexes.end());
+    std::vector<std::shared_ptr<const Property>> result;
+    for (const QModelIndex& index : indexes)
+        if (auto property = rows_->property(index); property && !view_->isRowHidden(index.row(), {}))
+            result.push_back(std::move(property));
+    return result;
+}
+
+std::vector<std::shared_ptr<const Property>> QtInspectorWidget::shownChanged() const {
+    std::vector<std::shared_ptr<const Property>> result;
+    for (int row = 0; row < rows_->rowCount(); ++row) {
+        const QModelIndex index = rows_->index(row, 0);
+        if (!view_->isRowHidden(row, {}) && index.data(RecordItemModel::ChangedRole).toBool())
+            result.push_back(rows_->property(index));
+    }
+    return result;
+}
+
+// ---- changes of the record ----
+
+void QtInspectorWidget::choose(
+    const std::vector<std::shared_ptr<const Property>>& targets, const QVariant& value) {
+    const DefaultValidatorFactory validators;
+    std::vector<PropertyValue> wanted;
+    QStringList skipped;
+    for (const auto& property : targets) {
+        if (rows_->current(*property) == value) continue;
+        if (validators.create(*property)(value))
+            wanted.push_back({property, value});
+        else
+            skipped << label(*properties_, *property);
+    }
+    const QPointer<QtInspectorWidget> self(this);
+    apply(wanted);
+    if (self && !skipped.isEmpty()) say(rows_->text("Not offered for: %1").arg(skipped.join(", ")));
+}
+
+void QtInspectorWidget::reset(const std::vector<std::shared_ptr<const Property>>& targets) {
+    std::vector<PropertyValue> wanted;
+    for (const auto& property : targets) wanted.push_back({property, defaultValue(*property)});
+    apply(wanted);
+}
+
+void QtInspectorWidget::apply(const std::vector<PropertyValue>& wanted) {
+    std::vector<PropertyValue> before, after;
+    for (const PropertyValue& one : wanted) {
+        const QVariant current = rows_->current(*one.property);
+        if (current == one.value) continue;
+        before.push_back({one.property, current});
+        after.push_back(one);
+    }
+    if (!after.empty() && write(after)) undo_.push(new Step(before, after));
+}
+
+bool QtInspectorWidget::write(const std::vector<PropertyValue>& values) {
+    return change([&] {
+        const container::model::Key key = *rows_->record();  // a copy: an observer may select another record
+        setValues(values, rows_->objects(), key);
+    });
+}
+
+bool QtInspectorWidget::change(const std::function<void()>& action) {
+    if (!rows_->isEditable()) {
+        say(rows_->text("These settings can no longer be changed."));
+        return false;
+    }
+    const QPointer<QtInspectorWidget> self(this);
+    changing_ = true;
+    changesSeen_ = 0;
+    QString problem;
+    try {
+        action();
+    } catch (const std::exception& exception) {
+        problem = QString::fromUtf8(exception.what());
+    }
+    if (!self) return false;
+    changing_ = false;
+    if (!problem.isEmpty()) {
+        say(rows_->text("Not changed: %1").arg(problem));
+        return false;
+    }
+    if (changesSeen_ > 1) undo_.clear();  // an observer went on changing: our steps no longer fit
+    return changesSeen_ <= 1;
+}
+
+void QtInspectorWidget::onRecordChanged() {
+    if (message_) message_->hide();
+    if (changing_)
+        ++changesSeen_;
+    else
+        undo_.clear();
+}
+
+void QtInspectorWidget::undo() {
+    if (write(static_cast<const Step&>(*undo_.command(undo_.index() - 1)).before)) undo_.undo();
+}
+
+void QtInspectorWidget::redo() {
+    if (write(static_cast<const Step&>(*undo_.command(undo_.index())).after)) undo_.redo();
+}
+
+// ---- clipboard ----
+
+void QtInspectorWidget::copyRows() const {
+    QStringList lines;
+    for (const auto& property : selectedProperties())
+        lines << label(*properties_, *property) + '\t' +
+                     rows_->valueText(*property, rows_->current(*property));
+    if (!lines.isEmpty()) QApplication::clipboard()->setText(lines.join('\n') + '\n');
+}
+
+void QtInspectorWidget::copySettings() const {
+    QApplication::clipboard()->setText(host_.copySettings());
+}
+
+void QtInspectorWidget::pasteSettings() {
+    const std::vector<PropertyValue> before = valuesOf(*rows_, properties_->list);
+    const QString text = QApplication::clipboard()->text();
+    if (!change([&] { host_.pasteSettings(text); })) return;
+    const std::vector<PropertyValue> after = valuesOf(*rows_, properties_->list);
+    const auto same = [](const PropertyValue& a, const PropertyValue& b) { return a.value == b.value; };
+    if (!std::equal(before.begin(), before.end(), after.begin(), same)) undo_.push(new Step(before, after));
+}
+
+// ---- filter ----
+
+void QtInspectorWidget::showFilter() {
+    if (!filterBar_) {
+        filterBar_ = new QWidget(this);
+        query_ = new QLineEdit(filterBar_);
+        query_->setClearButtonEnabled(true);
+        query_->installEventFilter(this);
+        changedOnly_ = new QCheckBox(filterBar_);
+        auto* layout = new QHBoxLayout(filterBar_);
+        layout->setContentsMargins(0, 0, 0, 0);
+        layout->addWidget(query_);
+        layout->addWidget(changedOnly_);
+        static_cast<QVBoxLayout*>(this->layout())->insertWidget(0, filterBar_);
+        setTabOrder(query_, changedOnly_);
+        setTabOrder(changedOnly_, view_);
+        connect(query_, &QLineEdit::textChanged, this, &QtInspectorWidget::filterRows);
+        connect(changedOnly_, &QCheckBox::toggled, this, &QtInspectorWidget::filterRows);
+        filterRows();
+    }
+    filterBar_->show();
+    query_->setFocus(Qt::ShortcutFocusReason);
+    query_->selectAll();
+}
+
+void QtInspectorWidget::hideFilter() {
+    query_->clear();
+    changedOnly_->setChecked(false);
+    filterBar_->hide();
+    view_->setFocus(Qt::OtherFocusReason);
+}
+
+// Only a new query, or new texts, hide and show rows: one that is set back to its default stays.
+void QtInspectorWidget::filterRows() {
+    if (filterBar_) {
+        query_->setPlaceholderText(rows_->text("Filter"));
+        query_->setAccessibleName(rows_->text("Filter"));
+        changedOnly_->setText(rows_->text("Changed only"));
+        const QString wanted = folded(query_->text());
+        int heading = -1;
+        for (int row = 0; row < rows_->rowCount(); ++row) {
+            const QModelIndex index = rows_->index(row, 0);
+            const bool isHeading = !rows_->property(index);
+            const bool found =
+                !isHeading &&
+                (!changedOnly_->isChecked() || index.data(RecordItemModel::ChangedRole).toBool()) &&
+                folded(index.data(RecordItemModel::SearchRole).toString()).contains(wanted);
+            view_->setRowHidden(row, {}, !found);
+            if (found && heading >= 0) view_->setRowHidden(heading, {}, false);
+            if (isHeading) heading = row;
+        }
+    }
+    updatePlaceholder();
+}
+
+void QtInspectorWidget::updatePlaceholder() {
+    view_->setPlaceholder(rows_->rowCount() > 0 ? rows_->text("No option matches the filter.")
+                                                : rows_->text("No option applies."));
+}
+
+// ---- texts ----
+
+void QtInspectorWidget::say(const QString& text) {
+    if (!message_) {
+        message_ = new QLabel(this);
+        message_->setWordWrap(true);
+        message_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        message_->setMargin(4);
+        layout()->addWidget(message_);
+    }
     message_->setText(text);
     message_->show();
 }
@@ -105,9 +397,13 @@ void QtInspectorWidget::showMessage(const QString& text) {
 void QtInspectorWidget::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
     if (event->type() != QEvent::LanguageChange) return;
-    if (retranslate_) retranslate_();
+    if (host_.retranslate) host_.retranslate();
+    setAccessibleName(rows_->text("Output options"));
+    view_->setAccessibleName(accessibleName());
+    if (message_) message_->hide();  // its text is of the other language
     rows_->retranslate();
-    arrange();
+    filterRows();
+    view_->measureAgain();
 }
 
 }  // namespace tiv::properties

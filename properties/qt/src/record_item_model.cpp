@@ -3,23 +3,48 @@
 #include <QFont>
 
 #include <algorithm>
-#include <exception>
 #include <string_view>
 #include <utility>
 
 namespace tiv::properties {
+namespace {
+
+// The entry that stands for the value, or null.
+const NamedValue* entryOf(const Branch& list, const char* entriesPath, const QVariant& value) {
+    const auto* entries = list.get<NamedValues>(entriesPath);
+    const auto* isEqual = list.get<IsEqual>("is_equal");
+    if (!entries || !isEqual) return nullptr;
+    for (const NamedValue& entry : **entries)
+        if ((*isEqual)(entry.value, value)) return &entry;
+    return nullptr;
+}
+
+bool isOffered(const Property& property, const QVariant& value) {
+    const Branch editor = property.configuration.branch("editor");
+    return !editor.get<NamedValues>("entries") || entryOf(editor, "entries", value);
+}
+
+QVariant bold() {
+    QFont font;
+    font.setBold(true);
+    return font;
+}
+
+}  // namespace
 
 RecordItemModel::RecordItemModel(std::shared_ptr<Properties> properties,
     std::shared_ptr<container::model::Model> model, std::shared_ptr<DataModelSignals::Selection> selection,
-    QObject* parent)
+    std::function<bool()> editable, QObject* parent)
     : QAbstractTableModel(parent),
       properties_(std::move(properties)),
-      signals_(std::move(model), std::move(selection)) {
+      signals_(std::move(model), std::move(selection)),
+      editable_(std::move(editable)) {
     connect(&signals_, &DataModelSignals::recordChanged, this, &RecordItemModel::updateAll);
-    setFilter([](const std::string&) { return true; });
+    connect(&signals_, &DataModelSignals::recordChanged, this, &RecordItemModel::recordChanged);
+    show([](const std::string&) { return true; });
 }
 
-void RecordItemModel::setFilter(const std::function<bool(const std::string&)>& shows) {
+void RecordItemModel::show(const std::function<bool(const std::string&)>& shows) {
     std::vector<std::shared_ptr<const Property>> shown;
     for (const auto& property : properties_->list)
         if (shows(property->key)) shown.push_back(property);
@@ -66,73 +91,91 @@ QString RecordItemModel::text(const char* source) const {
     return properties_->xlator ? properties_->xlator->text("inspector", source) : QString::fromUtf8(source);
 }
 
-QString RecordItemModel::valueText(const Property& property) const {
-    const container::model::Key* record = signals_.record();
-    if (!record) return {};
-    const QVariant current = value(property, signals_.model(), *record);
+QVariant RecordItemModel::current(const Property& property) const {
+    return record() ? value(property, objects(), *record()) : QVariant();
+}
+
+QString RecordItemModel::valueText(const Property& property, const QVariant& value) const {
     const Branch editor = property.configuration.branch("editor");
-    const auto* entries = editor.get<NamedValues>("entries");
-    const auto* isEqual = editor.get<IsEqual>("is_equal");
-    if (entries && isEqual)
-        for (const NamedValue& entry : **entries)
-            if ((*isEqual)(entry.value, current)) return entry.text;
-    return current.toString();
+    if (const NamedValue* entry = entryOf(editor, "entries", value)) return entry->text;
+    if (isOffered(property, value)) return value.toString();
+    const NamedValue* known = entryOf(editor, "names", value);
+    return text("%1 (not offered)").arg(known ? known->text : value.toString());
+}
+
+// The label in full, what the schema and the program say of the option, and what the value means.
+QString RecordItemModel::tooltipText(const Property& property, const QVariant& value) const {
+    QStringList lines{label(*properties_, property)};
+    if (property.tooltip) lines << tooltip(*properties_, property);
+    if (const auto* keyword = property.configuration.get<QString>("inspector.keyword"))
+        lines << text("Keyword: %1").arg(*keyword);
+    lines << text("Default: %1").arg(valueText(property, defaultValue(property)));
+    if (!value.isValid()) return lines.join('\n');
+    if (const NamedValue* explained = entryOf(property.configuration.branch("editor"), "explanations", value))
+        lines << explained->text;
+    if (!isOffered(property, value))
+        lines << text("The stored value %1 is not offered. It stays until another one is chosen.")
+                     .arg(value.toString());
+    return lines.join('\n');
 }
 
 QVariant RecordItemModel::data(const QModelIndex& index, int role) const {
     if (!index.isValid()) return {};
     const ShownRow& row = rows_[static_cast<std::size_t>(index.row())];
-    if (row.heading) {
-        if (role == Qt::DisplayRole && index.column() == LabelColumn)
-            return category(*properties_, *row.property);
-        if (role == Qt::FontRole) {
-            QFont font;
-            font.setBold(true);
-            return font;
+    if (!row.heading) return cell(index, *row.property, role);
+    if (role == Qt::DisplayRole && index.column() == LabelColumn)
+        return category(*properties_, *row.property);
+    return role == Qt::FontRole ? bold() : QVariant();
+}
+
+QVariant RecordItemModel::cell(const QModelIndex& index, const Property& property, int role) const {
+    const bool isValue = index.column() == ValueColumn;
+    if (role == Qt::DisplayRole && index.column() == LabelColumn) return label(*properties_, property);
+    const QVariant value = current(property);
+    const bool changed = value.isValid() && value != defaultValue(property);
+    switch (role) {
+        case Qt::DisplayRole:
+            return isValue && value.isValid() ? valueText(property, value) : QVariant();
+        case Qt::EditRole:
+            return isValue ? value : QVariant();
+        case Qt::FontRole:
+            return changed ? bold() : QVariant();
+        case Qt::ToolTipRole:
+            if (index.column() != ResetColumn) return tooltipText(property, value);
+            return changed ? text("Reset to default") : QVariant();
+        case Qt::AccessibleTextRole:
+            if (index.column() == ResetColumn) return changed ? text("Reset to default") : QString();
+            return data(index, Qt::DisplayRole);
+        case Qt::AccessibleDescriptionRole:
+            if (!isValue) return {};
+            return (changed ? text("Changed. Default: %1") : text("Default: %1"))
+                .arg(valueText(property, defaultValue(property)));
+        case ChangedRole:
+            return changed;
+        case OfferedRole:
+            return !value.isValid() || isOffered(property, value);
+        case SearchRole: {
+            const auto* keyword = property.configuration.get<QString>("inspector.keyword");
+            return QStringList{label(*properties_, property),
+                QString::fromStdString(property.key),
+                keyword ? *keyword : QString(),
+                value.isValid() ? valueText(property, value) : QString()}
+                .join('\n');
         }
-        return {};
+        default:
+            return {};
     }
-    if (role == Qt::EditRole && index.column() == ValueColumn) {
-        const container::model::Key* record = signals_.record();
-        return record ? value(*row.property, signals_.model(), *record) : QVariant();
-    }
-    if (role == Qt::ToolTipRole) {
-        const QString own = tooltip(*properties_, *row.property);
-        return own.isEmpty() ? data(index, Qt::DisplayRole) : own;
-    }
-    if (role != Qt::DisplayRole) return {};
-    return index.column() == LabelColumn ? label(*properties_, *row.property) : valueText(*row.property);
 }
 
 QVariant RecordItemModel::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole) return {};
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole || section == ResetColumn) return {};
     return section == LabelColumn ? text("Property") : text("Value");
 }
 
 Qt::ItemFlags RecordItemModel::flags(const QModelIndex& index) const {
     if (!property(index)) return Qt::ItemIsEnabled;
     const Qt::ItemFlags common = Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
-    return index.column() == ValueColumn && signals_.record() ? common | Qt::ItemIsEditable : common;
-}
-
-bool RecordItemModel::setData(const QModelIndex& index, const QVariant& newValue, int role) {
-    const auto edited = property(index);
-    if (!edited || index.column() != ValueColumn || role != Qt::EditRole) return false;
-    const container::model::Key* record = signals_.record();
-    if (!record) return false;
-    if (value(*edited, signals_.model(), *record) == newValue) return true;
-    if (!validators_.create(*edited)(newValue)) {
-        emit refused(text("This value is not offered."));
-        return false;
-    }
-    try {
-        const container::model::Key key = *record;  // an observer may select another record
-        setValue(*edited, signals_.model(), key, newValue);
-    } catch (const std::exception& problem) {
-        emit refused(QString::fromUtf8(problem.what()));
-        return false;
-    }
-    return true;
+    return index.column() == ValueColumn && isEditable() ? common | Qt::ItemIsEditable : common;
 }
 
 }  // namespace tiv::properties

@@ -1,10 +1,9 @@
-// The rows of an inspector: the shown properties of the selected record, read from it when they are
-// painted and written to it in one transaction each. Holds no values of its own.
+// The rows of an inspector: the shown properties of the selected record, read from it whenever they are
+// asked for. Holds no values; edits do not come here but go to the record, which tells.
 #pragma once
 
 #include "properties/nextgen/property.h"
 #include "properties/qt/src/data_model_signals.h"
-#include "properties/qt/src/validators.h"
 
 #include <QAbstractTableModel>
 
@@ -18,30 +17,47 @@ namespace tiv::properties {
 class RecordItemModel : public QAbstractTableModel {
     Q_OBJECT
  public:
-    enum Column { LabelColumn, ValueColumn, ColumnCount };
+    enum Column { LabelColumn, ValueColumn, ResetColumn, ColumnCount };
+    enum Role {
+        ChangedRole = Qt::UserRole,  // bool: the value is not the schema's default
+        OfferedRole,                 // bool: a list offers the value, or there is no list
+        SearchRole,                  // all that a filter finds the row by
+    };
 
+    // `editable` is asked before every edit.
     RecordItemModel(std::shared_ptr<Properties> properties, std::shared_ptr<container::model::Model> model,
-        std::shared_ptr<DataModelSignals::Selection> selection, QObject* parent);
+        std::shared_ptr<DataModelSignals::Selection> selection, std::function<bool()> editable,
+        QObject* parent);
 
     // Shows the properties whose keys `shows` accepts, by weight and then in order of the set, under the
     // headings of their categories.
-    void setFilter(const std::function<bool(const std::string&)>& shows);
+    void show(const std::function<bool(const std::string&)>& shows);
     // The texts have changed their language.
     void retranslate();
 
     // Null for a heading.
     std::shared_ptr<const Property> property(const QModelIndex& index) const;
+    // Whether there is a record, and it may be edited.
+    bool isEditable() const { return record() && editable_(); }
+    // The key of the shown record; null while there is none.
+    const container::model::Key* record() const { return signals_.record(); }
+    container::model::Model& objects() const { return signals_.model(); }
+    // A property's value in the shown record; invalid while there is none.
+    QVariant current(const Property& property) const;
+    // A value as the engineer reads it.
+    QString valueText(const Property& property, const QVariant& value) const;
+    // A text of the inspector itself in the engineer's language.
+    QString text(const char* source) const;
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
-    QVariant data(const QModelIndex& index, int role) const override;
+    QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
-    // False, and `refused`, when the value could not be written; the record is then unchanged.
-    bool setData(const QModelIndex& index, const QVariant& value, int role) override;
 
  signals:
-    void refused(const QString& why);
+    // Somebody has changed the shown record, or another one is shown.
+    void recordChanged();
 
  private:
     struct ShownRow {
@@ -49,13 +65,13 @@ class RecordItemModel : public QAbstractTableModel {
         bool heading;
     };
 
-    QString text(const char* source) const;
-    QString valueText(const Property& property) const;
     void updateAll();
+    QVariant cell(const QModelIndex& index, const Property& property, int role) const;
+    QString tooltipText(const Property& property, const QVariant& value) const;
 
     std::shared_ptr<Properties> properties_;
     DataModelSignals signals_;
-    DefaultValidatorFactory validators_;
+    std::function<bool()> editable_;
     std::vector<ShownRow> rows_;
 };
 

@@ -1,0 +1,95 @@
+#include "properties/qt/src/property_delegate.h"
+
+#include "properties/qt/src/record_item_model.h"
+
+#include <QApplication>
+#include <QMetaProperty>
+#include <QPainter>
+#include <QPainterPath>
+#include <QStyle>
+#include <QTimer>
+
+#include <algorithm>
+
+namespace tiv::properties {
+namespace {
+
+// An arrow that turns back, in the text's colour: the sign of a changed value, and its reset button.
+void paintResetSign(QPainter* painter, const QRectF& cell, const QColor& colour) {
+    const qreal side = 0.55 * std::min(cell.width(), cell.height());
+    QRectF circle(0, 0, side, side);
+    circle.moveCenter(cell.center());
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(QPen(colour, std::max(1.0, side / 8), Qt::SolidLine, Qt::FlatCap));
+    painter->drawArc(circle, -150 * 16, 290 * 16);
+    const QPointF tip(circle.left() + 0.12 * side, circle.top() + 0.04 * side);
+    QPainterPath head(tip);
+    head.lineTo(tip + QPointF(0.0, 0.48 * side));
+    head.lineTo(tip + QPointF(0.48 * side, 0.40 * side));
+    painter->fillPath(head, colour);
+    painter->restore();
+}
+
+int textMargin(const QStyle* style) {
+    return 2 * (style->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1);
+}
+
+}  // namespace
+
+QWidget* PropertyDelegate::createEditor(
+    QWidget* parent, const QStyleOptionViewItem& /*option*/, const QModelIndex& index) const {
+    const auto property = static_cast<const RecordItemModel*>(index.model())->property(index);
+    if (!property) return nullptr;
+    QWidget* editor = factory_.create(parent, property);
+    editor->setAccessibleName(index.siblingAtColumn(RecordItemModel::LabelColumn).data().toString());
+    if (auto* list = qobject_cast<NamedValueEditor*>(editor)) open(list);
+    return editor;
+}
+
+// The list is open from the start, and closing it ends the editing.
+void PropertyDelegate::open(NamedValueEditor* list) const {
+    auto* self = const_cast<PropertyDelegate*>(this);
+    connect(list, &NamedValueEditor::chosen, self, [self, list] {
+        emit self->commitData(list);
+        emit self->closeEditor(list);
+    });
+    connect(list, &NamedValueEditor::cancelled, self, [self, list] {
+        emit self->closeEditor(list, RevertModelCache);
+    });
+    QTimer::singleShot(0, list, &QComboBox::showPopup);
+}
+
+void PropertyDelegate::setModelData(
+    QWidget* editor, QAbstractItemModel* /*model*/, const QModelIndex& index) const {
+    emit entered(index, editor->metaObject()->userProperty().read(editor));
+}
+
+void PropertyDelegate::paint(
+    QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const {
+    QStyledItemDelegate::paint(painter, option, index);
+    if (index.column() != RecordItemModel::ResetColumn || !index.data(RecordItemModel::ChangedRole).toBool())
+        return;
+    const bool selected = option.state & QStyle::State_Selected;
+    const bool editable = index.siblingAtColumn(RecordItemModel::ValueColumn).flags() & Qt::ItemIsEditable;
+    paintResetSign(painter,
+        option.rect,
+        option.palette.color(editable ? QPalette::Normal : QPalette::Disabled,
+            selected ? QPalette::HighlightedText : QPalette::Text));
+}
+
+QSize PropertyDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
+    QSize size = QStyledItemDelegate::sizeHint(option, index);
+    // Room for an editor, and for a label that needs more than one line.
+    size.setHeight(std::max(size.height(), option.fontMetrics.height() * 3 / 2));
+    if (index.column() != RecordItemModel::LabelColumn || view_->uniformRowHeights()) return size;
+    QFont font = option.font;
+    font.setBold(true);
+    const QRect room(0, 0, view_->columnWidth(index.column()) - textMargin(view_->style()), 10000);
+    const int needed =
+        QFontMetrics(font).boundingRect(room, Qt::TextWordWrap, index.data().toString()).height();
+    size.setHeight(std::max(size.height(), needed + option.fontMetrics.height() / 2));
+    return size;
+}
+
+}  // namespace tiv::properties

@@ -1,0 +1,34 @@
+// Paints the cells of an inspector and makes their editors.
+#pragma once
+
+#include "properties/qt/src/editors.h"
+
+#include <QStyledItemDelegate>
+#include <QTreeView>
+
+namespace tiv::properties {
+
+class PropertyDelegate : public QStyledItemDelegate {
+    Q_OBJECT
+ public:
+    explicit PropertyDelegate(QTreeView* view) : QStyledItemDelegate(view), view_(view) {}
+
+    QWidget* createEditor(
+        QWidget* parent, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+    // Says what was entered. The record is not written here: that may destroy the editor's owner.
+    void setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override;
+    void paint(
+        QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+
+ signals:
+    void entered(const QModelIndex& index, const QVariant& value) const;
+
+ private:
+    void open(NamedValueEditor* list) const;
+
+    QTreeView* view_;
+    DefaultEditorFactory factory_;
+};
+
+}  // namespace tiv::properties

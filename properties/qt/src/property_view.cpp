@@ -1,0 +1,168 @@
+#include "properties/qt/src/property_view.h"
+
+#include "properties/qt/src/record_item_model.h"
+
+#include <QApplication>
+#include <QDateTime>
+#include <QEvent>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QPainter>
+
+#include <algorithm>
+
+namespace tiv::properties {
+namespace {
+
+constexpr int labelColumn = RecordItemModel::LabelColumn;
+constexpr int valueColumn = RecordItemModel::ValueColumn;
+constexpr int resetColumn = RecordItemModel::ResetColumn;
+
+bool opensEditor(const QKeyEvent& event) {
+    switch (event.key()) {
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+        case Qt::Key_F2:
+            return event.modifiers() == Qt::NoModifier || event.modifiers() == Qt::KeypadModifier;
+        case Qt::Key_Space:
+            return event.modifiers() == Qt::NoModifier;
+        case Qt::Key_Down:
+            return event.modifiers() & Qt::AltModifier;
+        default:
+            return false;
+    }
+}
+
+}  // namespace
+
+PropertyView::PropertyView(QWidget* parent) : QTreeView(parent) {
+    setRootIsDecorated(false);
+    setUniformRowHeights(true);
+    setAlternatingRowColors(true);
+    setAllColumnsShowFocus(true);
+    setEditTriggers(NoEditTriggers);
+    setSelectionMode(ExtendedSelection);
+    setSelectionBehavior(SelectRows);
+    setTabKeyNavigation(false);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setTextElideMode(Qt::ElideRight);
+    setWordWrap(true);
+    header()->setSectionsMovable(false);
+    header()->setStretchLastSection(false);
+    header()->setMinimumSectionSize(1);
+}
+
+void PropertyView::setPlaceholder(const QString& text) {
+    placeholder_ = text;
+    viewport()->update();
+}
+
+bool PropertyView::hasVisibleRows() const {
+    for (int row = 0; model() && row < model()->rowCount(); ++row)
+        if (!isRowHidden(row, {})) return true;
+    return false;
+}
+
+// Widths as if everything were bold, so that a change of a value moves nothing.
+void PropertyView::measure() {
+    const auto* rows = static_cast<const RecordItemModel*>(model());
+    QFont bold = font();
+    bold.setBold(true);
+    const QFontMetrics metrics(bold);
+    const int margin = 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1) + 2;
+    labelWidth_ = valueWidth_ = 0;
+    for (int row = 0; row < rows->rowCount(); ++row) {
+        const QModelIndex label = rows->index(row, labelColumn);
+        labelWidth_ = std::max(labelWidth_, metrics.horizontalAdvance(label.data().toString()) + margin);
+        const auto property = rows->property(label);
+        if (!property) continue;
+        const int characters = property->columnWidth ? QString::fromUtf8(property->columnWidth).toInt() : 0;
+        valueWidth_ = std::max(valueWidth_, characters * metrics.averageCharWidth() + margin);
+        const auto* entries = property->configuration.get<NamedValues>("editor.entries");
+        if (!entries) continue;
+        for (const NamedValue& entry : **entries)
+            valueWidth_ = std::max(valueWidth_, metrics.horizontalAdvance(entry.text) + margin);
+    }
+}
+
+void PropertyView::measureAgain() {
+    labelWidth_ = -1;
+    fitColumns();
+}
+
+// The values get what they need, the labels the rest; a label that does not fit is wrapped.
+void PropertyView::fitColumns() {
+    if (!isVisible() || !model()) return;
+    if (labelWidth_ < 0) measure();
+    const int reset = fontMetrics().height() * 3 / 2;
+    const int width = viewport()->width() - reset;
+    const int label = std::clamp(width - valueWidth_, std::min(width / 3, labelWidth_), labelWidth_);
+    const bool wraps = label < labelWidth_;
+    header()->resizeSection(labelColumn, label);
+    header()->resizeSection(valueColumn, std::max(1, width - label));
+    header()->resizeSection(resetColumn, reset);
+    setUniformRowHeights(!wraps);
+    if (wraps) scheduleDelayedItemsLayout();
+}
+
+void PropertyView::editRow(const QModelIndex& index) {
+    const QModelIndex value = index.siblingAtColumn(valueColumn);
+    if (value.flags() & Qt::ItemIsEditable) edit(value);
+}
+
+void PropertyView::keyPressEvent(QKeyEvent* event) {
+    if (opensEditor(*event)) return editRow(currentIndex());
+    if (event->key() == Qt::Key_Delete && event->modifiers() == Qt::NoModifier) {
+        emit resetRequested();
+        return;
+    }
+    if (event->key() == Qt::Key_Left || event->key() == Qt::Key_Right) return event->ignore();
+    QTreeView::keyPressEvent(event);
+}
+
+// Jumps to the next visible row whose label begins with what was typed.
+void PropertyView::keyboardSearch(const QString& text) {
+    const qint64 now = QDateTime::currentMSecsSinceEpoch();
+    const bool goesOn = now - searchedAt_ < QApplication::keyboardInputInterval() && searched_ != text;
+    searched_ = goesOn ? searched_ + text : text;
+    searchedAt_ = now;
+    const int rows = model()->rowCount();
+    const int first = currentIndex().isValid() ? currentIndex().row() + (goesOn ? 0 : 1) : 0;
+    for (int step = 0; step < rows; ++step) {
+        const int row = (first + step) % rows;
+        const QString label = model()->index(row, labelColumn).data().toString();
+        if (isRowHidden(row, {}) || !label.startsWith(searched_, Qt::CaseInsensitive)) continue;
+        return setCurrentIndex(model()->index(row, valueColumn));
+    }
+}
+
+QModelIndex PropertyView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
+    const QModelIndex index = QTreeView::moveCursor(action, modifiers);
+    return index.isValid() ? index.siblingAtColumn(valueColumn) : index;
+}
+
+void PropertyView::resizeEvent(QResizeEvent* event) {
+    QTreeView::resizeEvent(event);
+    fitColumns();
+}
+
+void PropertyView::showEvent(QShowEvent* event) {
+    QTreeView::showEvent(event);
+    fitColumns();
+}
+
+void PropertyView::changeEvent(QEvent* event) {
+    QTreeView::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) measureAgain();
+}
+
+void PropertyView::paintEvent(QPaintEvent* event) {
+    QTreeView::paintEvent(event);
+    if (placeholder_.isEmpty() || hasVisibleRows()) return;
+    QPainter painter(viewport());
+    painter.setPen(palette().color(QPalette::Text));
+    painter.drawText(
+        viewport()->rect().adjusted(8, 8, -8, -8), Qt::AlignCenter | Qt::TextWordWrap, placeholder_);
+}
+
+}  // namespace tiv::properties

@@ -5,6 +5,15 @@
 
 namespace tiv::echo {
 
+#if defined(Q_CC_GNU)
+// Both are inline, and belong to the library's symbols all the same.
+QT_WARNING_PUSH
+QT_WARNING_DISABLE_DEPRECATED
+[[gnu::used]] static QString (*const translations[])(const char*, const char*, int) = {
+    &EchoData::tr, &EchoData::trUtf8};
+QT_WARNING_POP
+#endif
+
 EchoData::EchoData(ProgrammTypes type, int database) : data(data::makeInternalData(type, database)) {}
 
 EchoData::~EchoData() = default;

@@ -3,6 +3,7 @@
 #include "bond/exceptions.h"
 #include "echo/expected_options.h"
 #include "echo/src/internal_data.h"
+#include "support/printing.h"
 #include "support/reports.h"
 
 #include <gtest/gtest.h>

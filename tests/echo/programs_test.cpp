@@ -2,6 +2,7 @@
 #include "echo/expected_options.h"
 #include "echo/src/internal_data.h"
 #include "echo/src/program_classes.h"
+#include "support/printing.h"
 #include "support/reports.h"
 #include "tiv/echo/echo_data.h"
 

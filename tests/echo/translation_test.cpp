@@ -2,6 +2,7 @@
 #include "echo/expected_options.h"
 #include "echo/src/internal_data.h"
 #include "echo/src/levels.h"
+#include "support/printing.h"
 #include "tiv/echo/echo_data.h"
 
 #include <QCoreApplication>

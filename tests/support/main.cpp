@@ -6,7 +6,19 @@ namespace test {
 void recordReports();
 }
 
+namespace {
+
+// A warning of Qt is a failure, but for what the offscreen platform says of itself.
+void onQtMessage(QtMsgType, const QMessageLogContext&, const QString& text) {
+    const bool ofThePlatform = text.startsWith(QLatin1String("This plugin does not support")) ||
+                               text.startsWith(QLatin1String("QStandardPaths:"));
+    if (!ofThePlatform) ADD_FAILURE() << "message of Qt: " << text.toStdString();
+}
+
+}  // namespace
+
 int main(int argc, char** argv) {
+    qInstallMessageHandler(onQtMessage);
     QApplication application(argc, argv);
     testing::InitGoogleTest(&argc, argv);
     test::recordReports();

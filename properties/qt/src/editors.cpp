@@ -3,6 +3,7 @@
 #include <QAbstractItemView>
 #include <QCheckBox>
 #include <QEvent>
+#include <QItemSelectionModel>
 #include <QLineEdit>
 #include <QTimer>
 #include <QWheelEvent>
@@ -21,6 +22,7 @@ void NamedValueEditor::setValue(const QVariant& value) {
     int index = count() - 1;
     while (index >= 0 && !(isEqual ? (*isEqual)(itemData(index), value) : itemData(index) == value)) --index;
     setCurrentIndex(index);
+    if (view()->isVisible()) view()->setCurrentIndex(model()->index(index, modelColumn()));
 }
 
 // Keeps the choice: only the texts differ from one call to the next.
@@ -37,19 +39,26 @@ void NamedValueEditor::fill() {
 }
 
 void NamedValueEditor::choose(int index) {
+    if (!view()->selectionModel()->isSelected(model()->index(index, modelColumn())))
+        return;  // none was marked
     value_ = itemData(index);
     isChosen_ = true;
     emit chosen();
 }
 
-void NamedValueEditor::hidePopup() {
-    const bool wasOpen = view()->isVisible();
-    QComboBox::hidePopup();
+void NamedValueEditor::showPopup() {
+    QComboBox::showPopup();
+    view()->window()->installEventFilter(this);
+    if (currentIndex() < 0) view()->clearSelection();
+}
+
+bool NamedValueEditor::eventFilter(QObject* watched, QEvent* event) {
     // A choice is signalled right after the list is hidden: wait for it.
-    if (wasOpen)
+    if (event->type() == QEvent::Hide)
         QTimer::singleShot(0, this, [this] {
             if (!isChosen_) emit cancelled();
         });
+    return QComboBox::eventFilter(watched, event);
 }
 
 // The wheel scrolls the inspector; it never changes a value.

@@ -32,7 +32,8 @@ class NamedValueEditor : public QComboBox {
     void cancelled();  // the list was closed without a choice
 
  protected:
-    void hidePopup() override;
+    void showPopup() override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void changeEvent(QEvent* event) override;
 

@@ -136,6 +136,14 @@ void PropertyView::keyboardSearch(const QString& text) {
     }
 }
 
+// Wherever a row is clicked, its value is the current cell.
+void PropertyView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+    QTreeView::currentChanged(current, previous);
+    if (current.isValid() && current.column() != valueColumn)
+        selectionModel()->setCurrentIndex(
+            current.siblingAtColumn(valueColumn), QItemSelectionModel::NoUpdate);
+}
+
 QModelIndex PropertyView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
     const QModelIndex index = QTreeView::moveCursor(action, modifiers);
     return index.isValid() ? index.siblingAtColumn(valueColumn) : index;

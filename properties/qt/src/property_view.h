@@ -27,6 +27,7 @@ class PropertyView : public QTreeView {
     void keyPressEvent(QKeyEvent* event) override;
     void keyboardSearch(const QString& text) override;
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
     void showEvent(QShowEvent* event) override;

@@ -1,0 +1,116 @@
+#include "inspector/driver.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QTest>
+
+namespace test {
+
+void settle() {
+    for (int i = 0; i < 3; ++i) {
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+}
+
+Driver::Driver(QWidget* inspector) : widget(inspector), view(inspector->findChild<QTreeView*>()) {
+    widget->resize(640, 480);
+    widget->show();
+    QApplication::setActiveWindow(widget->window());
+    view->setFocus();
+    settle();
+}
+
+QStringList Driver::rows() const {
+    QStringList result;
+    const QAbstractItemModel& model = *view->model();
+    for (int i = 0; i < model.rowCount(); ++i) {
+        if (view->isRowHidden(i, {})) continue;
+        const QModelIndex label = model.index(i, 0);
+        const bool changed = label.data(Qt::FontRole).value<QFont>().bold();
+        result << label.data().toString() + '=' + label.siblingAtColumn(1).data().toString() +
+                      (changed ? "*" : "");
+    }
+    return result;
+}
+
+QString Driver::row(const QString& label) const {
+    for (const QString& text : rows())
+        if (text.startsWith(label + '=')) return text.mid(label.size() + 1);
+    return QStringLiteral("no such row");
+}
+
+QRect Driver::cell(const QString& label, int column) const {
+    const auto found =
+        view->model()->match(view->model()->index(0, 0), Qt::DisplayRole, label, 1, Qt::MatchExactly);
+    if (found.isEmpty()) return {};
+    view->scrollTo(found.front());
+    return view->visualRect(found.front().siblingAtColumn(column));
+}
+
+void Driver::click(const QString& label, int column, Qt::KeyboardModifiers modifiers) {
+    QApplication::setActiveWindow(widget->window());
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, modifiers, cell(label, column).center());
+    settle();
+}
+
+void Driver::key(int key, Qt::KeyboardModifiers modifiers) {
+    QWidget* popup = QApplication::activePopupWidget();
+    QWidget* target = popup && popup->focusWidget() ? popup->focusWidget()
+                      : popup                       ? popup
+                                                    : QApplication::focusWidget();
+    if (auto* open = list()) target = open;
+    if (target) QTest::keyClick(target, static_cast<Qt::Key>(key), modifiers);
+    settle();
+}
+
+void Driver::type(const QString& text) {
+    QTest::keyClicks(list() ? list() : QApplication::focusWidget(), text);
+    settle();
+}
+
+QAbstractItemView* Driver::list() const {
+    const auto* box = view ? view->findChild<QComboBox*>() : nullptr;
+    return box && box->view()->isVisible() ? box->view() : nullptr;
+}
+
+QStringList Driver::offered() const {
+    QStringList texts;
+    if (const auto* open = list())
+        for (int i = 0; i < open->model()->rowCount(); ++i)
+            texts << open->model()->index(i, 0).data().toString();
+    return texts;
+}
+
+QString Driver::marked() const {
+    const auto* open = list();
+    if (!open || open->selectionModel()->selectedIndexes().isEmpty()) return {};
+    return open->selectionModel()->selectedIndexes().front().data().toString();
+}
+
+void Driver::pick(const QString& level) {
+    auto* open = list();
+    const int entry = static_cast<int>(offered().indexOf(level));
+    if (!open || entry < 0) return;
+    QTest::mouseClick(
+        open->viewport(), Qt::LeftButton, {}, open->visualRect(open->model()->index(entry, 0)).center());
+    settle();
+}
+
+void Driver::choose(const QString& label, const QString& level) {
+    click(label);
+    pick(level);
+}
+
+QString Driver::message() const {
+    for (const auto* label : widget->findChildren<QLabel*>(QString(), Qt::FindDirectChildrenOnly))
+        if (label->isVisible()) return label->text();
+    return {};
+}
+
+bool Driver::hasFocus() const {
+    return view->hasFocus() && view->currentIndex().column() == 1;
+}
+
+}  // namespace test

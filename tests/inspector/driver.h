@@ -1,0 +1,40 @@
+// Drives an inspector as an engineer does, with mouse and keys, and reads from it what an engineer sees.
+#pragma once
+
+#include <QPointer>
+#include <QString>
+#include <QStringList>
+#include <QTreeView>
+#include <QWidget>
+
+namespace test {
+
+class Driver {
+ public:
+    // Shows the inspector, wide enough for nothing to be cut.
+    explicit Driver(QWidget* inspector);
+
+    QStringList rows() const;  // the visible ones: "label=value", changed ones with a "*" behind
+    QString row(const QString& label) const;
+    QRect cell(const QString& label, int column) const;
+
+    void click(const QString& label, int column = 1, Qt::KeyboardModifiers modifiers = {});
+    void key(int key, Qt::KeyboardModifiers modifiers = {});  // to whatever has the focus
+    void type(const QString& text);
+    // The open list of levels, or null.
+    QAbstractItemView* list() const;
+    QStringList offered() const;
+    QString marked() const;  // the list's current entry
+    void pick(const QString& level);
+    void choose(const QString& label, const QString& level);  // two clicks
+    QString message() const;  // the sentence below the table; empty when none is shown
+    bool hasFocus() const;
+
+    const QPointer<QWidget> widget;
+    const QPointer<QTreeView> view;
+};
+
+// Lets everything happen that is due.
+void settle();
+
+}  // namespace test

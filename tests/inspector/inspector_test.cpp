@@ -4,6 +4,7 @@
 #include "echo/schema/esk.h"
 #include "echo/src/internal_data.h"
 #include "inspector/driver.h"
+#include "properties/qt/src/qt_inspector_widget.h"
 #include "support/printing.h"
 #include "tiv/echo/echo_data.h"
 
@@ -27,6 +28,7 @@ namespace {
 
 using namespace test;
 using tiv::echo::EchoData;
+using tiv::properties::QtInspectorWidget;
 
 const Project everything(everyKind);
 
@@ -399,7 +401,8 @@ TEST(Inspector, TurnsGermanAtOnceTheOpenListIncluded) {
 // What is destroyed first, and what the inspector is doing then.
 TEST(Inspector, SurvivesEveryOrderOfDestruction) {
     for (const std::string victim : {"widget", "parent", "echo"})
-        for (const std::string doing : {"idle", "list open", "filter focused", "told of a change"}) {
+        for (const std::string doing :
+            {"idle", "list open", "filter focused", "told of a change", "signalled"}) {
             SCOPED_TRACE(victim + ", " + doing);
             auto table = tiv::echo::data::makeInternalData(EchoData::ESK, everything.handle);
             auto window = std::make_unique<QWidget>();
@@ -411,10 +414,14 @@ TEST(Inspector, SurvivesEveryOrderOfDestruction) {
                 if (victim == "parent") window.reset();
                 if (victim == "echo") table.reset();
             };
-            if (doing == "list open" || doing == "told of a change") driver.click("Loads");
+            if (doing == "list open" || doing == "told of a change" || doing == "signalled")
+                driver.click("Loads");
             if (doing == "filter focused") driver.key(Qt::Key_F, Qt::ControlModifier);
-            if (doing == "told of a change") {
-                model->onChange([&](const auto&) { destroy(); });
+            if (doing == "told of a change") model->onChange([&](const auto&) { destroy(); });
+            if (doing == "signalled")
+                QObject::connect(
+                    qobject_cast<QtInspectorWidget*>(widget), &QtInspectorWidget::settingsChanged, destroy);
+            if (doing == "told of a change" || doing == "signalled") {
                 driver.pick("Full output");
                 EXPECT_EQ(model->read<tiv::echo::esk::Data>(0).prop.load, tiv::echo::FULL_OUTPUT);
             } else {

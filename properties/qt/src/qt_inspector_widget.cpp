@@ -287,6 +287,7 @@ void QtInspectorWidget::onRecordChanged() {
         ++changesSeen_;
     else
         undo_.clear();
+    emit settingsChanged();
 }
 
 void QtInspectorWidget::undo() {

@@ -52,6 +52,10 @@ class QtInspectorWidget : public QWidget {
     // Shows only the properties whose keys the function accepts. Without one, all are shown.
     void setPropertyFilterFunction(const std::function<bool(const std::string&)>& shows);
 
+ signals:
+    // The record has changed, whoever changed it. A slot may destroy the inspector.
+    void settingsChanged();
+
  protected:
     void changeEvent(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -65,7 +65,9 @@ class TIV_ECHOTABLE_EXPORT EchoData : public QObject {
 
     // A new widget that shows the options applicable to the project and writes each choice straight
     // into this object. The caller, or `parent`, owns it. Any number of inspectors may show the same
-    // options. Widget, parent and EchoData may be destroyed in any order.
+    // options. Widget, parent and EchoData may be destroyed in any order. The widget has a signal
+    // settingsChanged(), for a host that shows what follows from the settings:
+    //     connect(inspector, SIGNAL(settingsChanged()), this, SLOT(updatePreview()));
     QWidget* createPropertyInspector(QWidget* parent);
 
     // The input lines of the analysis program, without line ends; none for an option at its program's

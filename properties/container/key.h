@@ -2,7 +2,8 @@
 // Called by everyone who stores or reads an object; the settings record of an echo table has Key(0).
 //
 //     model.read<Properties>(0);
-//     model.read<Properties>("prop");   // text is always kept as std::string
+//     model.read<Properties>("prop");                                   // text is always kept as std::string
+//     model.read<Properties>(Key(std::in_place, std::pair(7, 'a')));
 //
 // Keys of different types are never equal: Key(0) != Key(0u). They are ordered by type, in an order that
 // holds while the process runs.
@@ -22,10 +23,10 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <type_traits>
+#include <utility>
 
 namespace tiv::container::model {
-
-class Key;
 
 namespace detail {
 
@@ -38,19 +39,27 @@ struct Hashable {
 template <class T>
 concept Text = std::convertible_to<const T&, std::string_view>;
 
-// What a key can be made of, besides text. boost::hash must know the type, too.
 template <class T>
-concept KeyValue = !std::same_as<T, Key> && !Text<T> && std::copy_constructible<T> && std::totally_ordered<T>;
+concept Scalar = std::is_scalar_v<T> && !Text<T>;
 
 }  // namespace detail
 
 class Key {
  public:
-    // A copy of the value. Throws std::bad_alloc, and what copying the value throws.
-    template <detail::KeyValue T>
-    Key(const T& value) : value_(value) {}
+    // Of a number, an enumerator or an address.
+    template <detail::Scalar T>
+    Key(T value) : value_(value) {}
+    // Of text.
     template <detail::Text T>
     Key(const T& text) : value_(std::string(std::string_view(text))) {}
+    // Of another type that can be copied, compared by == and < and hashed by boost::hash. Not by conversion:
+    // std::tuple<Key>, for one, would take any tuple for a key.
+    template <class T>
+    Key(std::in_place_t, const T& value) : value_(value) {}
+
+    // A key is copied, never moved from: it always has a value.
+    Key(const Key&) = default;
+    Key& operator=(const Key&) = default;
 
     // Members, so that comparing something else never asks whether that converts to a key.
     bool operator==(const Key& other) const {

@@ -28,9 +28,9 @@ std::vector<Key> Model::keys() const {
     return result;
 }
 
-boost::signals2::connection Model::onChange(std::function<void(const Changes&)> observer) {
+boost::signals2::connection Model::onChange(const std::function<void(const Changes&)>& observer) {
     if (!store_->observers) store_->observers.emplace();
-    return store_->observers->connect(std::move(observer));
+    return store_->observers->connect(observer);
 }
 
 void* detail::ObjectReference::modify() const {

@@ -65,7 +65,7 @@ class Model {
     // (itself and others), and destroy model and transaction. The changes of a transaction that an observer
     // runs are told before its remaining neighbours hear of the first one. What an observer throws, end()
     // throws to its caller.
-    boost::signals2::connection onChange(std::function<void(const Changes&)> observer);
+    boost::signals2::connection onChange(const std::function<void(const Changes&)>& observer);
 
  private:
     friend class Transaction;

@@ -1,0 +1,142 @@
+#include "container/operation_sequence.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+namespace {
+
+using namespace tiv::container::model;
+using Keys = std::vector<Key>;
+
+// A model with 7 under the key 0.
+class Container : public testing::Test {
+ protected:
+    Container() { set(7); }
+    void set(int number) {
+        Transaction transaction(model);
+        if (model.contains(0)) transaction.erase(0);
+        transaction.insert(0, number);
+        transaction.end();
+    }
+
+    Model model;
+};
+
+template <class Call>
+std::string failureOf(Call call) {
+    try {
+        return call(), "none";
+    } catch (const std::runtime_error& error) {
+        return error.what();
+    }
+}
+
+TEST_F(Container, EveryFailureHasItsTextAndLeavesTheModelAsItWas) {
+    const ObjectHandle<int> seven = model.handle<int>(0);
+    ObjectHandle<int> orphan, dropped;
+    EXPECT_EQ(failureOf([&] { model.read<int>(1); }), "Unknown key.");
+    EXPECT_EQ(failureOf([&] { model.handle<unsigned>(0); }), "Type mismatch.");
+    EXPECT_EQ(failureOf([&] { seven.modify(); }), "modify() may only be called within a transaction.");
+    {
+        Model shortLived;
+        Transaction transaction(model), other(shortLived);
+        EXPECT_EQ(failureOf([&] { Transaction second(model); }),
+            "Transaction in progress. Hierarchical transactions not supported (yet). Should we?");
+        EXPECT_EQ(failureOf([&] { orphan.modify(); }), "modify() may only be called within a transaction.");
+        other.insert(0, 7);
+        orphan = shortLived.handle<int>(0);
+        transaction.insert(1, 1);
+        dropped = model.handle<int>(1);
+        EXPECT_EQ(failureOf([&] { transaction.insert(1, 1); }), "Key already exists.");
+        transaction.erase(1);
+        transaction.insert(1, 2);
+        EXPECT_EQ(failureOf([&] { dropped.modify(); }), "Trying to access erased object.");
+        seven.modify() = 8;
+        transaction.erase(0);
+        EXPECT_EQ(failureOf([&] { transaction.erase(0); }), "Unknown key.");
+        EXPECT_EQ(failureOf([&] { seven.modify(); }), "Trying to access erased object.");
+        transaction.insert(0, std::string("eight"));
+        EXPECT_EQ(failureOf([&] { seven.modify(); }), "Trying to access erased object.");
+        EXPECT_EQ(failureOf([&] { model.read<int>(0); }), "Type mismatch.");
+    }
+    Transaction transaction(model);
+    EXPECT_EQ(failureOf([&] { orphan.modify(); }), "modify() may only be called within a transaction.");
+    transaction.insert(1, 1);
+    EXPECT_EQ(failureOf([&] { dropped.modify(); }), "Trying to access expired object.");
+    transaction.erase(1);
+    EXPECT_EQ(failureOf([&] { dropped.modify(); }), "Trying to access erased object.");
+    transaction.end();
+    EXPECT_EQ(failureOf([&] { transaction.end(); }), "The transaction has already ended.");
+    EXPECT_EQ(failureOf([&] { transaction.insert(1, 1); }), "The transaction has already ended.");
+    EXPECT_EQ(failureOf([&] { transaction.erase(0); }), "The transaction has already ended.");
+    EXPECT_EQ(model.keys(), Keys{0});
+    EXPECT_EQ(model.read<int>(0), 7);
+}
+
+TEST(Key, OfAnotherTypeIsAnotherKeyAndTextIsText) {
+    std::string text = "0";
+    const Keys keys{text, 0, 0U, 0.0, Key(std::in_place, std::pair(0, 0)), 1, std::string_view("0")};
+    text = "1";
+    for (std::size_t i = 0; i < keys.size(); ++i)
+        for (std::size_t j = 0; j < keys.size(); ++j) {
+            EXPECT_EQ(keys[i] == keys[j], i % 6 == j % 6) << i << ' ' << j;
+            EXPECT_EQ((keys[i] < keys[j]) + (keys[j] < keys[i]), i % 6 == j % 6 ? 0 : 1) << i << ' ' << j;
+        }
+    EXPECT_EQ(std::hash<Key>()(keys[0]), std::hash<Key>()(keys[6]));
+}
+
+TEST(BothModels, AgreeInRandomSequencesThoughMemoryRunsOut) {
+    int failures = 0;
+    std::mt19937 random(1);
+    for (int sequence = 0; sequence < 500; ++sequence) {
+        std::vector<std::uint8_t> bytes(200);
+        std::ranges::generate(bytes, [&] { return static_cast<std::uint8_t>(random()); });
+        EXPECT_NO_THROW(failures += test::runOperations(bytes)) << "sequence " << sequence;
+    }
+    EXPECT_GT(failures, 10000);
+}
+
+TEST_F(Container, ObserversAreToldOnceAndMayComeAndGoAndRunTransactions) {
+    Keys told;
+    boost::signals2::connection first, second;
+    first = model.onChange([&](const Changes&) {
+        told.emplace_back(model.read<int>(0));
+        first.disconnect();
+        second.disconnect();
+        model.onChange([&](const Changes& changes) {
+            told.insert(told.end(), changes.created.begin(), changes.created.end());
+            told.emplace_back("told");
+        });
+        set(9);
+    });
+    second = model.onChange([&](const Changes&) { ADD_FAILURE() << "disconnected before it was told"; });
+    set(8);
+    Transaction transaction(model);
+    for (const int key : {3, 1, 2}) transaction.insert(key, key);
+    transaction.erase(3);
+    transaction.insert(3, 3);
+    transaction.end();
+    Transaction(model).end();
+    EXPECT_EQ(told, (Keys{8, "told", 3, 1, 2, "told"}));
+}
+
+TEST_F(Container, ObserversMayThrowAndDestroyAllWhileErasedObjectsLive) {
+    auto doomed = std::make_unique<Model>();
+    auto last = std::make_unique<Transaction>(*doomed);
+    last->insert(0, test::Value(7));
+    last->end();
+    last = std::make_unique<Transaction>(*doomed);
+    Keys told;
+    for (const char* failure : {"one", "two"})
+        doomed->onChange([&, failure](const Changes&) {
+            last.reset(), doomed.reset();
+            told.emplace_back(test::Value::alive);
+            throw std::runtime_error(failure);
+        });
+    last->erase(0);
+    EXPECT_EQ(failureOf([&] { last->end(); }), "one");
+    EXPECT_EQ(told, (Keys{1, 1}));
+}
+
+}  // namespace

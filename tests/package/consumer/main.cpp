@@ -7,15 +7,14 @@
 
 int main() {
     using tiv::echo::EchoData;
-    tiv::smartassert::setReporter([](const tiv::smartassert::Report& report) {
-        std::cout << "report: " << report.expression << '\n';
-    });
+    tiv::smartassert::setReporter(
+        [](const tiv::smartassert::Report& report) { std::cout << "report: " << report.expression << '\n'; });
     const int project = tiv::dbo::createProject(":memory:");
     const EchoData unknown(static_cast<EchoData::ProgrammTypes>(14), project);
     EchoData echo(EchoData::ESK, project);
     std::cout << "settings: " << echo.getXMLData().toStdString();
     try {
-        echo.insertXMLData("AA");
+        echo.insertXMLData("Cg==");
     } catch (const bond::Exception& refusal) {
         std::cout << "refused: " << refusal.what() << '\n';
     }

@@ -2,7 +2,7 @@
 // Called by everyone who stores or reads an object; the settings record of an echo table has Key(0).
 //
 //     model.read<Properties>(0);
-//     model.read<Properties>("prop");                                   // text is always kept as std::string
+//     model.read<Properties>("prop");  // text is always kept as std::string
 //     model.read<Properties>(Key(std::in_place, std::pair(7, 'a')));
 //
 // Keys of different types are never equal: Key(0) != Key(0u). They are ordered by type, in an order that

@@ -1,0 +1,158 @@
+// echotable: the echo tables of the analysis programs on the command line. Finds the verb, parses its
+// arguments, runs it, and turns what went wrong into one line on stderr and the exit code.
+#include "apps/echotable/arguments.h"
+#include "apps/echotable/text.h"
+#include "tiv/smartassert/smart_assert.h"
+
+#include <QApplication>
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <memory>
+#include <string_view>
+#include <vector>
+
+namespace {
+
+using namespace tiv::tool;
+
+enum ExitCode { Done = 0, WrongInput = 1, WrongUsage = 2 };
+
+QList<Verb> allVerbs() {
+    return QList<Verb>{programs(), show(), set(), telinp(), edit()} + projectVerbs();
+}
+
+QCommandLineOption helpOption() {
+    return {{QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Shows this help.")};
+}
+
+QCommandLineOption versionOption() {
+    return {{QStringLiteral("v"), QStringLiteral("version")}, QStringLiteral("Shows the version.")};
+}
+
+QString meaning(const QString& argument) {
+    if (argument == QLatin1String("PROGRAM"))
+        return QStringLiteral("Number or name of a program type, as `echotable programs` lists them.");
+    if (argument == QLatin1String("FILE")) return QStringLiteral("A project.");
+    if (argument == QLatin1String("NAME")) return QStringLiteral("An analysis task of the project.");
+    return QStringLiteral(
+        "An option's key or field, and a level that `echotable show` lists as offered "
+        "for it, or #NUMBER for any value.");
+}
+
+QString helpOf(const Verb& verb, QCommandLineParser& parser) {
+    parser.setApplicationDescription(verb.summary);
+    for (const QString& argument : verb.arguments) parser.addPositionalArgument(argument, meaning(argument));
+    const QStringList words = QStringList(verb.name) + verb.arguments;
+    const QString text = parser.helpText();  // its first line knows no verb
+    return QStringLiteral("Usage: echotable %1 [options]").arg(words.join(QLatin1Char(' '))) +
+           text.mid(text.indexOf(QLatin1Char('\n')));
+}
+
+QString generalHelp() {
+    std::vector<QStringList> rows;
+    for (const Verb& verb : allVerbs()) rows.push_back({QStringLiteral("  ") + verb.name, verb.summary});
+    return QStringLiteral(
+        "Usage: echotable VERB [arguments] [options]\n"
+        "The echo tables of the analysis programs: what their reports print.\n\n"
+        "Verbs:\n%1\n"
+        "`echotable VERB --help` tells what the verb takes; --version shows the version.\n")
+        .arg(aligned(rows));
+}
+
+// The verb that the words begin with; null for none.
+const Verb* findVerb(const QList<Verb>& verbs, const QStringList& words) {
+    const auto isMeant = [&](const Verb& verb) {
+        const QStringList name = verb.name.split(QLatin1Char(' '));
+        return words.mid(0, name.size()) == name;
+    };
+    const auto found = std::find_if(verbs.begin(), verbs.end(), isMeant);
+    return found == verbs.end() ? nullptr : &*found;
+}
+
+void checkCount(const QStringList& given, const QStringList& expected) {
+    const bool repeats = expected.value(expected.size() - 1).endsWith(QLatin1String("...]"));
+    const auto required = std::count_if(expected.begin(), expected.end(), [](const QString& argument) {
+        return !argument.startsWith(QLatin1Char('['));
+    });
+    if (given.size() < required)
+        throw UsageError(QStringLiteral("%1 is missing").arg(expected[given.size()]));
+    if (given.size() > expected.size() && !repeats)
+        throw UsageError(QStringLiteral("unexpected argument \"%1\"").arg(given[expected.size()]));
+}
+
+QString unknownVerb(const QStringList& words) {
+    QStringList names;
+    for (const Verb& verb : allVerbs()) names += verb.name;
+    const QString problem = words.isEmpty() ? QStringLiteral("VERB is missing")
+                                            : QStringLiteral("unknown verb \"%1\"").arg(words.front());
+    return problem + QStringLiteral(", expected ") + choices(names);
+}
+
+// `verb` is the one that the words begin with, or null.
+void run(const Verb* verb, const QStringList& words) {
+    QCommandLineParser parser;
+    parser.addOptions({helpOption(), versionOption()});
+    if (verb) parser.addOptions(verb->options);
+    const int skipped = verb ? verb->name.count(QLatin1Char(' ')) + 1 : 0;
+    const bool understood = parser.parse(QStringList(QStringLiteral("echotable")) + words.mid(skipped));
+
+    if (parser.isSet(helpOption())) return print(verb ? helpOf(*verb, parser) : generalHelp());
+    if (parser.isSet(versionOption())) return print(QStringLiteral("echotable " TIV_VERSION "\n"));
+    if (!verb) throw UsageError(unknownVerb(words));
+    if (!understood) throw UsageError(parser.errorText().chopped(1));  // the full stop
+    checkCount(parser.positionalArguments(), verb->arguments);
+    verb->run(parser);
+}
+
+int exitCodeOf(const QStringList& words) {
+    const QList<Verb> verbs = allVerbs();
+    const Verb* verb = findVerb(verbs, words);
+    try {
+        run(verb, words);
+        return Done;
+    } catch (const UsageError& problem) {
+        const QString name = verb ? verb->name + QLatin1Char(' ') : QString();
+        complain(QStringLiteral("%1 (see echotable %2--help)").arg(QString::fromUtf8(problem.what()), name));
+        return WrongUsage;
+    } catch (const std::exception& problem) {
+        complain(QString::fromUtf8(problem.what()));
+        return WrongInput;
+    }
+}
+
+// Only the window of `edit` needs a display; everything else, its help included, works without one.
+bool opensWindow(const std::vector<std::string_view>& words) {
+    const auto answered = {"-h", "--help", "-v", "--version"};
+    return !words.empty() && words.front() == "edit" &&
+           std::find_first_of(words.begin(), words.end(), answered.begin(), answered.end()) == words.end();
+}
+
+// Where Qt would end the program instead of saying so in one line.
+bool lacksDisplay() {
+#if defined(Q_OS_UNIX) && !defined(Q_OS_MACOS)
+    const auto isEmpty = [](const char* name) { return qEnvironmentVariableIsEmpty(name); };
+    return isEmpty("DISPLAY") && isEmpty("WAYLAND_DISPLAY") && isEmpty("QT_QPA_PLATFORM");
+#else
+    return false;
+#endif
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    tiv::smartassert::setReporter([](const tiv::smartassert::Report& report) {
+        warn(QStringLiteral("assertion failed: %1 (%2:%3)")
+                 .arg(QString::fromUtf8(report.expression.data(), static_cast<int>(report.expression.size())),
+                     QString::fromUtf8(report.source.data(), static_cast<int>(report.source.size())))
+                 .arg(report.line));
+    });
+    const bool window = opensWindow({argv + 1, argv + argc});
+    if (window && lacksDisplay()) {
+        complain(QStringLiteral("edit needs a display"));
+        return WrongInput;
+    }
+    const std::unique_ptr<QCoreApplication> application(
+        window ? new QApplication(argc, argv) : new QCoreApplication(argc, argv));
+    return exitCodeOf(QCoreApplication::arguments().mid(1));
+}

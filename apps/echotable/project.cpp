@@ -1,0 +1,187 @@
+#include "apps/echotable/project.h"
+
+#include "apps/echotable/arguments.h"
+#include "apps/echotable/table.h"
+#include "apps/echotable/text.h"
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonObject>
+
+#include <utility>
+
+namespace tiv::tool {
+namespace {
+
+// What dbo makes no file for.
+const QString temporary = QStringLiteral(":memory:");
+
+constexpr struct {
+    const char* name;
+    dbo::ElementKind kind;
+    bool (*has)(int database, int* count);
+} kinds[] = {
+    {"quads", dbo::ElementKind::Quads, &dbo::hasQuads},
+    {"brics", dbo::ElementKind::Brics, &dbo::hasBrics},
+    {"beams", dbo::ElementKind::Beams, &dbo::hasBeams},
+    {"cables", dbo::ElementKind::Cables, &dbo::hasCables},
+    {"springs", dbo::ElementKind::Springs, &dbo::hasSprings},
+};
+
+QStringList kindNames() {
+    QStringList names;
+    for (const auto& kind : kinds) names += QString::fromLatin1(kind.name);
+    return names;
+}
+
+QString fileName(const QCommandLineParser& arguments) {
+    return arguments.positionalArguments().constFirst();
+}
+
+int openProject(const QString& file) {
+    return dbo::openProject(file.toStdString());
+}
+
+int countOf(const QCommandLineParser& arguments, const QString& kind) {
+    if (!arguments.isSet(kind)) return 0;
+    bool isNumber = false;
+    const int count = arguments.value(kind).toInt(&isNumber);
+    if (!isNumber || count < 0)
+        throw UsageError(QStringLiteral("--%1: expected a number from 0 to 2147483647, got \"%2\"")
+                             .arg(kind, arguments.value(kind)));
+    return count;
+}
+
+void create(const QCommandLineParser& arguments) {
+    const QString file = fileName(arguments);
+    if (file == temporary) throw UsageError(QStringLiteral("expected the name of a file, got ") + file);
+    std::vector<std::pair<dbo::ElementKind, int>> elements;
+    for (const auto& kind : kinds) {
+        const int count = countOf(arguments, QString::fromLatin1(kind.name));
+        if (count > 0) elements.emplace_back(kind.kind, count);
+    }
+    const int database = dbo::createProject(file.toStdString());
+    try {
+        const Project project(database);
+        for (const auto& [kind, count] : elements) dbo::addElements(project.handle, kind, count);
+    } catch (...) {
+        QFile::remove(file);
+        throw;
+    }
+}
+
+void info(const QCommandLineParser& arguments) {
+    const Project project(openProject(fileName(arguments)));
+    std::vector<QStringList> rows{{"ELEMENTS", "COUNT"}};
+    QJsonObject elements;
+    for (const auto& kind : kinds) {
+        int count = 0;
+        kind.has(project.handle, &count);
+        const QString name = QString::fromLatin1(kind.name);
+        rows.push_back({name, QString::number(count)});
+        elements[name] = count;
+    }
+    QJsonArray tasks;
+    QString text = aligned(std::exchange(rows, {{"TASK", "PROGRAM", "SETTINGS"}})) + QLatin1Char('\n');
+    for (const dbo::Task& task : dbo::tasks(project.handle)) {
+        const QString name = QString::fromStdString(task.name);
+        const QString program = programName(task.programType);
+        const QString settings = QString::fromStdString(task.settings);
+        rows.push_back({name, program, settings.trimmed()});
+        tasks += QJsonObject{
+            {"name", name}, {"number", task.programType}, {"program", program}, {"settings", settings}};
+    }
+    text += aligned(rows);
+    const QJsonDocument json(QJsonObject{{"elements", elements}, {"tasks", tasks}});
+    print(arguments.isSet(jsonOption()) ? jsonText(json) : text);
+}
+
+void store(const QCommandLineParser& arguments) {
+    const QString name = arguments.positionalArguments().at(1);
+    if (name.isEmpty()) throw UsageError(QStringLiteral("expected a name for the task, got none"));
+    const Project project(openProject(fileName(arguments)));
+    const auto table = makeTable(arguments.positionalArguments().at(2), project);
+    if (arguments.isSet(settingsOption())) readSettings(*table, arguments.value(settingsOption()));
+    dbo::storeTask(project.handle,
+        {name.toStdString(), static_cast<int>(table->programType), table->getXMLData().toStdString()});
+}
+
+void load(const QCommandLineParser& arguments) {
+    const QString name = arguments.positionalArguments().at(1);
+    const Project project(openProject(fileName(arguments)));
+    QStringList names;
+    for (const dbo::Task& task : dbo::tasks(project.handle)) {
+        if (task.name == name.toStdString())
+            return writeOutput(arguments, QString::fromStdString(task.settings));
+        names += QString::fromStdString(task.name);
+    }
+    throw failure(fileName(arguments),
+        names.isEmpty() ? QStringLiteral("no task \"%1\", there are none").arg(name)
+                        : QStringLiteral("no task \"%1\", expected %2").arg(name, choices(names)));
+}
+
+QList<QCommandLineOption> countOptions() {
+    QList<QCommandLineOption> options;
+    for (const QString& kind : kindNames())
+        options += {kind, QStringLiteral("Number of %1. Default: 0.").arg(kind), QStringLiteral("N")};
+    return options;
+}
+
+}  // namespace
+
+Project projectWith(const QString& elements) {
+    const QStringList known = kindNames();
+    QStringList wanted;
+    if (elements == QLatin1String("all"))
+        wanted = known;
+    else if (elements != QLatin1String("none"))
+        wanted = elements.split(QLatin1Char(','));
+    for (const QString& name : wanted)
+        if (!known.contains(name))
+            throw UsageError(
+                QStringLiteral("unknown kind of element \"%1\", expected a list of %2; all or none")
+                    .arg(name, known.join(QStringLiteral(", "))));
+
+    const int database = dbo::createProject(temporary.toStdString());
+    for (const auto& kind : kinds)
+        if (wanted.contains(QLatin1String(kind.name))) dbo::addElements(database, kind.kind, 1);
+    return Project(database);
+}
+
+Project projectOf(const QCommandLineParser& arguments) {
+    const QCommandLineOption project = projectOption();
+    const QCommandLineOption elements = elementsOption();
+    if (arguments.isSet(project) && arguments.isSet(elements))
+        throw UsageError(QStringLiteral("--project and --elements exclude each other"));
+    if (arguments.isSet(project)) return Project(openProject(arguments.value(project)));
+    return projectWith(arguments.isSet(elements) ? arguments.value(elements) : QStringLiteral("all"));
+}
+
+QList<Verb> projectVerbs() {
+    const QString file = QStringLiteral("FILE");
+    const QString name = QStringLiteral("NAME");
+    return {
+        {QStringLiteral("project create"),
+            {file},
+            QStringLiteral("Creates a project with so many elements of each kind."),
+            countOptions(),
+            &create},
+        {QStringLiteral("project info"),
+            {file},
+            QStringLiteral("Shows a project's elements and analysis tasks."),
+            {jsonOption()},
+            &info},
+        {QStringLiteral("project store"),
+            {file, name, QStringLiteral("PROGRAM")},
+            QStringLiteral("Stores settings in a project as the analysis task of that name."),
+            {settingsOption()},
+            &store},
+        {QStringLiteral("project load"),
+            {file, name},
+            QStringLiteral("Prints the settings string of a project's analysis task."),
+            {outputOption()},
+            &load},
+    };
+}
+
+}  // namespace tiv::tool

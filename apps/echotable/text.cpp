@@ -1,0 +1,78 @@
+#include "apps/echotable/text.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+#include <QTextCodec>
+
+#include <algorithm>
+#include <cstdio>
+
+namespace tiv::tool {
+
+std::runtime_error failure(const QString& file, const QString& reason) {
+    return std::runtime_error((file + QStringLiteral(": ") + reason).toStdString());
+}
+
+QString inputName(const QString& file) {
+    return file == standardStream ? QStringLiteral("standard input") : file;
+}
+
+QString readText(const QString& name) {
+    QFile file(name);
+    const bool open =
+        name == standardStream ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
+    const QByteArray bytes = open ? file.readAll() : QByteArray();
+    if (file.error() != QFileDevice::NoError) throw failure(inputName(name), file.errorString());
+    QString text = QTextCodec::codecForUtfText(bytes, QTextCodec::codecForName("UTF-8"))->toUnicode(bytes);
+    return text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+}
+
+void writeText(const QString& name, const QString& text) {
+    if (name == standardStream) return print(text);
+    const QFileInfo present(name);
+    if (present.exists() && !present.isFile())  // a device, say, would be replaced as well
+        throw failure(name, QStringLiteral("not a file"));
+    QSaveFile file(name);
+    if (!file.open(QIODevice::WriteOnly)) throw failure(name, file.errorString());
+    file.write(text.toUtf8());
+    if (!file.commit()) throw failure(name, file.errorString());
+}
+
+void print(const QString& text) {
+    const QByteArray bytes = text.toUtf8();
+    QFile file;
+    const bool written =
+        file.open(stdout, QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush();
+    if (!written) throw failure(QStringLiteral("standard output"), file.errorString());
+}
+
+void complain(const QString& text) {
+    std::fprintf(stderr, "echotable: %s\n", text.toUtf8().constData());
+}
+
+void warn(const QString& text) {
+    complain(QStringLiteral("warning: ") + text);
+}
+
+QString jsonText(const QJsonDocument& document) {
+    return QString::fromUtf8(document.toJson());
+}
+
+QString aligned(const std::vector<QStringList>& rows) {
+    std::vector<int> widths;
+    for (const QStringList& row : rows) {
+        widths.resize(std::max(widths.size(), static_cast<std::size_t>(row.size())));
+        for (int i = 0; i < row.size(); ++i) widths[i] = std::max(widths[i], row[i].size());
+    }
+    QString text;
+    for (const QStringList& row : rows) {
+        QString line;
+        for (int i = 0; i < row.size(); ++i) line += row[i].leftJustified(widths[i] + 2);
+        while (line.endsWith(QLatin1Char(' '))) line.chop(1);
+        text += line + QLatin1Char('\n');
+    }
+    return text;
+}
+
+}  // namespace tiv::tool

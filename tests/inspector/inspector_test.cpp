@@ -8,7 +8,7 @@
 #include "support/printing.h"
 #include "tiv/echo/echo_data.h"
 
-#include <QAbstractScrollArea>
+#include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
 #include <QEvent>
@@ -19,10 +19,20 @@
 #include <QTest>
 #include <QVBoxLayout>
 
+#include <private/qguiapplication_p.h>
+#include <qpa/qplatformaccessibility.h>
+#include <qpa/qplatformintegration.h>
+
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <memory>
 #include <random>
+#include <vector>
+
+#if defined(__GLIBC__)
+#include <malloc.h>
+#endif
 
 namespace {
 
@@ -397,6 +407,84 @@ TEST(Inspector, TurnsGermanAtOnceTheOpenListIncluded) {
     speak(QLocale::c());
     EXPECT_EQ(driver.row("Loads"), "No output*");
 }
+
+std::vector<QAccessible::Event> spoken;
+
+TEST(Inspector, SpeaksToAScreenReader) {
+    // Only the platform can say that somebody listens.
+    auto* platform = QGuiApplicationPrivate::platformIntegration()->accessibility();
+    platform->setActive(true);
+    Host host(EchoData::ESK, json(R"("load":3)"));
+    Driver& driver = *host.driver;
+    auto* tree = QAccessible::queryAccessibleInterface(driver.view);
+    EXPECT_EQ(tree->text(QAccessible::Name), "Output options");
+    const auto cell = [&](int row, int column) { return tree->tableInterface()->cellAt(row, column); };
+    EXPECT_EQ(cell(2, 0)->text(QAccessible::Name), "Loads");
+    EXPECT_EQ(cell(2, 1)->text(QAccessible::Name), "Full output");
+    EXPECT_EQ(cell(2, 1)->text(QAccessible::Description), "Changed. Default: Default output");
+    EXPECT_EQ(cell(3, 1)->text(QAccessible::Description), "Default: Default output");
+    driver.click("Loads");
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(driver.list())->text(QAccessible::Name), "Loads");
+    driver.key(Qt::Key_Up);
+    const auto previous = QAccessible::installUpdateHandler([](QAccessibleEvent* event) {
+        printf("%x %s %d %s\n",
+            event->type(),
+            event->object() ? event->object()->metaObject()->className() : "",
+            event->child(),
+            qPrintable(
+                event->accessibleInterface() ? event->accessibleInterface()->text(QAccessible::Name) : ""));
+        spoken.push_back(event->type());
+    });
+    driver.key(Qt::Key_Return);
+    QAccessible::installUpdateHandler(previous);
+    EXPECT_EQ(driver.row("Loads"), "Normal output*");
+    EXPECT_EQ(std::count(spoken.begin(), spoken.end(), QAccessible::ValueChanged), 1);
+    EXPECT_EQ(std::count(spoken.begin(), spoken.end(), QAccessible::Focus), 1);
+    platform->setActive(false);
+}
+
+TEST(Inspector, CutsNoLabelAt460Pixels) {
+    const QFont before = QApplication::font();
+    for (const int points : {9, 12, 24})
+        for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft})
+            for (const auto type : {EchoData::QSX_ELPL, EchoData::ESK, EchoData::MEXORA, EchoData::PLAX2}) {
+                QFont font = before;
+                font.setPointSize(points);
+                QApplication::setFont(font);
+                QApplication::setLayoutDirection(direction);
+                EchoData echo(type, everything.handle);
+                const std::unique_ptr<QWidget> widget(echo.createPropertyInspector(nullptr));
+                Driver driver(widget.get());
+                widget->resize(460, 400);
+                settle();
+                font.setBold(true);
+                for (const QString& row : driver.rows()) {
+                    const QString label = row.section('=', 0, 0);
+                    const QRect cell = driver.cell(label, 0);
+                    const QRect needed = QFontMetrics(font).boundingRect(
+                        QRect(0, 0, cell.width() - 6, 9999), Qt::TextWordWrap, label);
+                    EXPECT_LE(needed.width(), cell.width() - 6) << label.toStdString() << ' ' << points;
+                    EXPECT_LE(needed.height(), cell.height()) << label.toStdString() << ' ' << points;
+                }
+            }
+    QApplication::setLayoutDirection(Qt::LeftToRight);
+    QApplication::setFont(before);
+}
+
+#if defined(__GLIBC__) && !defined(__SANITIZE_ADDRESS__)
+TEST(Inspector, LeavesNothingBehind) {
+    EchoData echo(EchoData::PLAX2, everything.handle);
+    const auto cycle = [&] {
+        const std::unique_ptr<QWidget> widget(echo.createPropertyInspector(nullptr));
+        widget->show();
+        settle();
+    };
+    for (int i = 0; i < 20; ++i) cycle();
+    const auto before = mallinfo2().uordblks;
+    for (int i = 0; i < 1000; ++i) cycle();
+    EXPECT_LT(mallinfo2().uordblks, before + 200 * 1000);
+}
+#endif
 
 // What is destroyed first, and what the inspector is doing then.
 TEST(Inspector, SurvivesEveryOrderOfDestruction) {

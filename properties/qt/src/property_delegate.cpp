@@ -2,6 +2,7 @@
 
 #include "properties/qt/src/record_item_model.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QMetaProperty>
 #include <QPainter>
@@ -43,11 +44,14 @@ QWidget* PropertyDelegate::createEditor(
     if (!property) return nullptr;
     QWidget* editor = factory_.create(parent, property);
     editor->setAccessibleName(index.siblingAtColumn(RecordItemModel::LabelColumn).data().toString());
-    if (auto* list = qobject_cast<NamedValueEditor*>(editor)) open(list);
+    if (auto* list = qobject_cast<NamedValueEditor*>(editor)) {
+        list->view()->setAccessibleName(editor->accessibleName());
+        open(list);
+    }
     return editor;
 }
 
-// The list is open from the start, and closing it ends the editing.
+// The list is open from the start, and closing it ends the editing. The focus stays with the table.
 void PropertyDelegate::open(NamedValueEditor* list) const {
     auto* self = const_cast<PropertyDelegate*>(this);
     connect(list, &NamedValueEditor::chosen, self, [self, list] {
@@ -57,7 +61,16 @@ void PropertyDelegate::open(NamedValueEditor* list) const {
     connect(list, &NamedValueEditor::cancelled, self, [self, list] {
         emit self->closeEditor(list, RevertModelCache);
     });
-    QTimer::singleShot(0, list, &QComboBox::showPopup);
+    QTimer::singleShot(0, list, [list, view = view_] {
+        view->setFocus();
+        static_cast<QComboBox*>(list)->showPopup();
+    });
+}
+
+// An editor without the focus is done, but for one whose list is what is edited with.
+bool PropertyDelegate::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::FocusOut && qobject_cast<NamedValueEditor*>(watched)) return false;
+    return QStyledItemDelegate::eventFilter(watched, event);
 }
 
 void PropertyDelegate::setModelData(
@@ -80,9 +93,9 @@ void PropertyDelegate::paint(
 
 QSize PropertyDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
     QSize size = QStyledItemDelegate::sizeHint(option, index);
-    // Room for an editor, and for a label that needs more than one line.
+    // Room for an editor, and for a text that needs more than one line.
     size.setHeight(std::max(size.height(), option.fontMetrics.height() * 3 / 2));
-    if (index.column() != RecordItemModel::LabelColumn || view_->uniformRowHeights()) return size;
+    if (index.column() == RecordItemModel::ResetColumn || view_->uniformRowHeights()) return size;
     QFont font = option.font;
     font.setBold(true);
     const QRect room(0, 0, view_->columnWidth(index.column()) - textMargin(view_->style()), 10000);

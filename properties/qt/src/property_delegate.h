@@ -24,6 +24,9 @@ class PropertyDelegate : public QStyledItemDelegate {
  signals:
     void entered(const QModelIndex& index, const QVariant& value) const;
 
+ protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
  private:
     void open(NamedValueEditor* list) const;
 

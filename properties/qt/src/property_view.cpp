@@ -70,18 +70,24 @@ void PropertyView::measure() {
     bold.setBold(true);
     const QFontMetrics metrics(bold);
     const int margin = 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1) + 2;
-    labelWidth_ = valueWidth_ = 0;
+    const auto widen = [&](int& width, const QString& text) {
+        width = std::max(width, metrics.horizontalAdvance(text) + margin);
+    };
+    labelWidth_ = wordWidth_ = valueWidth_ = 0;
+    widen(wordWidth_, rows->headerData(labelColumn, Qt::Horizontal, Qt::DisplayRole).toString());
+    widen(valueWidth_, rows->headerData(valueColumn, Qt::Horizontal, Qt::DisplayRole).toString());
     for (int row = 0; row < rows->rowCount(); ++row) {
         const QModelIndex label = rows->index(row, labelColumn);
-        labelWidth_ = std::max(labelWidth_, metrics.horizontalAdvance(label.data().toString()) + margin);
+        const QString text = label.data().toString();
+        widen(labelWidth_, text);
+        for (const QString& word : text.split(QLatin1Char(' '))) widen(wordWidth_, word);
         const auto property = rows->property(label);
         if (!property) continue;
         const int characters = property->columnWidth ? QString::fromUtf8(property->columnWidth).toInt() : 0;
         valueWidth_ = std::max(valueWidth_, characters * metrics.averageCharWidth() + margin);
         const auto* entries = property->configuration.get<NamedValues>("editor.entries");
         if (!entries) continue;
-        for (const NamedValue& entry : **entries)
-            valueWidth_ = std::max(valueWidth_, metrics.horizontalAdvance(entry.text) + margin);
+        for (const NamedValue& entry : **entries) widen(valueWidth_, entry.text);
     }
 }
 
@@ -90,14 +96,15 @@ void PropertyView::measureAgain() {
     fitColumns();
 }
 
-// The values get what they need, the labels the rest; a label that does not fit is wrapped.
+// The values get what they need and the labels the rest, but no word is ever cut; what does not fit into
+// one line is wrapped.
 void PropertyView::fitColumns() {
     if (!isVisible() || !model()) return;
     if (labelWidth_ < 0) measure();
     const int reset = fontMetrics().height() * 3 / 2;
     const int width = viewport()->width() - reset;
-    const int label = std::clamp(width - valueWidth_, std::min(width / 3, labelWidth_), labelWidth_);
-    const bool wraps = label < labelWidth_;
+    const int label = std::max(std::min(width - valueWidth_, labelWidth_), wordWidth_);
+    const bool wraps = label < labelWidth_ || width - label < valueWidth_;
     header()->resizeSection(labelColumn, label);
     header()->resizeSection(valueColumn, std::max(1, width - label));
     header()->resizeSection(resetColumn, reset);

@@ -40,8 +40,9 @@ class PropertyView : public QTreeView {
     QString placeholder_;
     QString searched_;
     qint64 searchedAt_ = 0;
-    int labelWidth_ = -1;  // what the widest label, and the widest value, would need; -1: not measured
-    int valueWidth_ = -1;
+    int labelWidth_ = -1;  // what the widest label needs; -1: not measured
+    int wordWidth_ = 0;    // the widest word of a label
+    int valueWidth_ = 0;   // the widest value offered
 };
 
 }  // namespace tiv::properties

@@ -5,6 +5,7 @@
 #include "properties/qt/src/record_item_model.h"
 #include "properties/qt/src/validators.h"
 
+#include <QAccessible>
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
@@ -247,7 +248,24 @@ void QtInspectorWidget::apply(const std::vector<PropertyValue>& wanted) {
         before.push_back({one.property, current});
         after.push_back(one);
     }
-    if (!after.empty() && write(after)) undo_.push(new Step(before, after));
+    if (after.empty() || !write(after)) return;
+    undo_.push(new Step(before, after));
+    announce(after);
+}
+
+// What a screen reader reads out after a gesture of the engineer.
+void QtInspectorWidget::announce(const std::vector<PropertyValue>& values) {
+    if (!QAccessible::isActive()) return;
+    QAccessibleInterface* table = QAccessible::queryAccessibleInterface(view_);
+    for (int row = 0; row < rows_->rowCount(); ++row) {
+        const QModelIndex index = rows_->index(row, RecordItemModel::ValueColumn);
+        const auto property = rows_->property(index);
+        const auto isRow = [&](const PropertyValue& value) { return value.property == property; };
+        if (std::none_of(values.begin(), values.end(), isRow)) continue;
+        QAccessibleValueChangeEvent event(
+            table->tableInterface()->cellAt(row, RecordItemModel::ValueColumn), index.data());
+        QAccessible::updateAccessibility(&event);
+    }
 }
 
 bool QtInspectorWidget::write(const std::vector<PropertyValue>& values) {

@@ -78,6 +78,7 @@ class QtInspectorWidget : public QWidget {
     bool write(const std::vector<PropertyValue>& values);
     // Runs something that changes the record. False if it failed, or if `this` is gone.
     bool change(const std::function<void()>& action);
+    void announce(const std::vector<PropertyValue>& values);
     void undo();
     void redo();
     void copyRows() const;

@@ -11,6 +11,7 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
+#include <QComboBox>
 #include <QEvent>
 #include <QLineEdit>
 #include <QLocale>
@@ -426,14 +427,9 @@ TEST(Inspector, SpeaksToAScreenReader) {
     driver.click("Loads");
     EXPECT_EQ(QAccessible::queryAccessibleInterface(driver.list())->text(QAccessible::Name), "Loads");
     driver.key(Qt::Key_Up);
+    // Of the table, that is: a list that is being closed speaks of its own value.
     const auto previous = QAccessible::installUpdateHandler([](QAccessibleEvent* event) {
-        printf("%x %s %d %s\n",
-            event->type(),
-            event->object() ? event->object()->metaObject()->className() : "",
-            event->child(),
-            qPrintable(
-                event->accessibleInterface() ? event->accessibleInterface()->text(QAccessible::Name) : ""));
-        spoken.push_back(event->type());
+        if (!qobject_cast<QComboBox*>(event->object())) spoken.push_back(event->type());
     });
     driver.key(Qt::Key_Return);
     QAccessible::installUpdateHandler(previous);

@@ -10,24 +10,23 @@
 namespace bond {
 
 class Exception : public std::runtime_error {
-   public:
+ public:
     using std::runtime_error::runtime_error;
 };
 
 // The content is wrong. Texts:
 //   "JSON parser error: <message> at offset <bytes>"
 //   "Max recursion depth exceeded"      structs or containers nested deeper than 64
-//   "Unknown data type found"           a field of a wire type that does not exist
+//   "Unknown data type found"           a value of a wire type that does not exist
 class CoreException : public Exception {
-   public:
+ public:
     using Exception::Exception;
 };
 
-// The bytes end too early. Texts:
+// The bytes end too early. Text:
 //   "Read out of bounds: <n> bytes requested, offset: <position>, length: <bytes>"
-//   "Offset caused pointer to overflow"
 class StreamException : public Exception {
-   public:
+ public:
     using Exception::Exception;
 };
 

@@ -76,19 +76,9 @@ auto answersByRecord() {
 
 // What the project answers, as text: base64, the record as SimpleJSON, or "bond::CoreException: text".
 std::string answer(const Json& row, const QByteArray& bytes) try {
-    static const auto answers = answersByRecord<qsx::BrucData,
-        qsx::RissData,
-        qsx::ElPlData,
-        esk::Data,
-        esk::EigeData,
-        dimvel::BrucData,
-        dimvel::RissData,
-        kst::Data,
-        vibr::EarthquakeData,
-        mexora::Data,
-        plax2::Data,
-        tiviload::Data,
-        rova::Data>();
+    static const auto answers = answersByRecord<qsx::BrucData, qsx::RissData, qsx::ElPlData, esk::Data,
+        esk::EigeData, dimvel::BrucData, dimvel::RissData, kst::Data, vibr::EarthquakeData, mexora::Data,
+        plax2::Data, tiviload::Data, rova::Data>();
     return answers.at(textOf(member(row, "record")))(textOf(member(row, "op")), member(row, "in"), bytes);
 } catch (const bond::CoreException& e) {
     return std::string("bond::CoreException: ") + e.what();
@@ -122,10 +112,8 @@ bool statesSize(const QByteArray& bytes, qint64 offset, quint64 size) {
 bool isStricterOnDamage(const QByteArray& bytes, const std::string& ours) {
     unsigned long long size = 0, offset = 0, length = 0;
     const int found = std::sscanf(ours.c_str(),
-        "bond::StreamException: Read out of bounds: %llu bytes requested, offset: %llu, length: %llu",
-        &size,
-        &offset,
-        &length);
+        "bond::StreamException: Read out of bounds: %llu bytes requested, offset: %llu, length: %llu", &size,
+        &offset, &length);
     return found == 3 && size > 1 && length == quint64(bytes.size()) && offset <= length &&
            size > length - offset && statesSize(bytes, qint64(offset), size);
 }

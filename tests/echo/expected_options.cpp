@@ -40,11 +40,8 @@ QString jsonSettings(const std::vector<ExpectedOption>& options, const std::vect
 
 Project::Project(unsigned kinds) : handle(tiv::dbo::createProject(":memory:")), kinds_(kinds) {
     using tiv::dbo::ElementKind;
-    constexpr ElementKind all[] = {ElementKind::Quads,
-        ElementKind::Brics,
-        ElementKind::Beams,
-        ElementKind::Cables,
-        ElementKind::Springs};
+    constexpr ElementKind all[] = {ElementKind::Quads, ElementKind::Brics, ElementKind::Beams,
+        ElementKind::Cables, ElementKind::Springs};
     for (unsigned bit = 0; bit < 5; ++bit)
         if (kinds >> bit & 1) tiv::dbo::addElements(handle, all[bit], 1);
 }

@@ -32,13 +32,8 @@ TEST_F(German, TranslatesEveryLabelCommentAndLevel) {
     const QStringList same{"4", "5", "6", "7"};
     QStringList sources;
     for (const ExpectedOption& o : expectedOptions()) sources << o.label << o.comment;
-    for (const char* text : {"Default output",
-             "No output",
-             "Normal output",
-             "Full output",
-             "Extensive output",
-             "no output of text lists",
-             "extensive output of text lists"})
+    for (const char* text : {"Default output", "No output", "Normal output", "Full output",
+             "Extensive output", "no output of text lists", "extensive output of text lists"})
         sources << text;
     for (const QString& source : sources)
         EXPECT_NE(EchoData::tr(source.toUtf8().constData()), source) << source.toStdString();

@@ -82,15 +82,8 @@ TEST(Inspector, ShowsTheApplicableOptionsInOrderWithExactlyTheirLevels) {
             for (const ExpectedOption& o : expectedOptions(type)) {
                 if (o.shown == "-" || !project->has(o.needs)) continue;
                 labels << o.label;
-                const QStringList texts{"Default output",
-                    "No output",
-                    "Normal output",
-                    "Full output",
-                    "Extensive output",
-                    "4",
-                    "5",
-                    "6",
-                    "7"};
+                const QStringList texts{"Default output", "No output", "Normal output", "Full output",
+                    "Extensive output", "4", "5", "6", "7"};
                 QStringList offered;
                 for (const QChar digit : o.offered) offered << texts[digit.digitValue()];
                 driver.click(o.label);
@@ -110,9 +103,8 @@ TEST(Inspector, WritesAChoiceAtOnceAndAPlainLookNever) {
     Host host(EchoData::KST);
     host.driver->choose("Groups", "Full output");
     EXPECT_EQ(host.settings(), "CjAGAAA=\n");
-    EXPECT_EQ(host.driver->rows(),
-        (QStringList{
-            "Construction Stages=Default output", "Groups=Full output*", "Loadcases=Default output"}));
+    EXPECT_EQ(host.driver->rows(), (QStringList{"Construction Stages=Default output", "Groups=Full output*",
+                                       "Loadcases=Default output"}));
     EXPECT_TRUE(host.driver->hasFocus());
     for (const auto& leave : {+[](Driver& d) { d.key(Qt::Key_Escape); },
              +[](Driver& d) { d.pick("Full output"); },  // the level that it has
@@ -152,16 +144,8 @@ TEST(Inspector, ChangesNothingByWheelOrNavigation) {
     wheel(driver.view->findChild<QWidget*>("qt_scrollarea_viewport"));
     driver.key(Qt::Key_Escape);
     std::mt19937 random(5);
-    const Qt::Key keys[] = {Qt::Key_Up,
-        Qt::Key_Down,
-        Qt::Key_Left,
-        Qt::Key_Right,
-        Qt::Key_Home,
-        Qt::Key_End,
-        Qt::Key_PageUp,
-        Qt::Key_PageDown,
-        Qt::Key_Tab,
-        Qt::Key_Backtab};
+    const Qt::Key keys[] = {Qt::Key_Up, Qt::Key_Down, Qt::Key_Left, Qt::Key_Right, Qt::Key_Home, Qt::Key_End,
+        Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Tab, Qt::Key_Backtab};
     for (int i = 0; i < 200; ++i) {
         driver.view->setFocus();
         QTest::keyClick(driver.view, keys[random() % std::size(keys)]);
@@ -301,10 +285,9 @@ TEST(Inspector, NeedsNoMouse) {
     Host host(EchoData::ESK);
     Driver& driver = *host.driver;
     driver.key(Qt::Key_Home);
-    for (const auto& [key, modifier] : {std::pair{Qt::Key_Return, Qt::NoModifier},
-             {Qt::Key_F2, Qt::NoModifier},
-             {Qt::Key_Space, Qt::NoModifier},
-             {Qt::Key_Down, Qt::AltModifier}}) {
+    for (const auto& [key, modifier] :
+        {std::pair{Qt::Key_Return, Qt::NoModifier}, {Qt::Key_F2, Qt::NoModifier},
+            {Qt::Key_Space, Qt::NoModifier}, {Qt::Key_Down, Qt::AltModifier}}) {
         driver.key(key, modifier);
         ASSERT_TRUE(driver.list()) << key;
         driver.type("f");
@@ -527,16 +510,8 @@ TEST(Inspector, TellsTheRecordAfterWhateverHappens) {
         Driver& driver = *host.driver;
         const auto options = expectedOptions(10);
         const QString first = host.settings();
-        const Qt::Key keys[] = {Qt::Key_Up,
-            Qt::Key_Down,
-            Qt::Key_Return,
-            Qt::Key_Escape,
-            Qt::Key_Delete,
-            Qt::Key_Home,
-            Qt::Key_PageDown,
-            Qt::Key_Space,
-            Qt::Key_N,
-            Qt::Key_F};
+        const Qt::Key keys[] = {Qt::Key_Up, Qt::Key_Down, Qt::Key_Return, Qt::Key_Escape, Qt::Key_Delete,
+            Qt::Key_Home, Qt::Key_PageDown, Qt::Key_Space, Qt::Key_N, Qt::Key_F};
         for (int step = 0; step < 150; ++step) {
             const QString& label = options[random() % options.size()].label;
             switch (random() % 8) {

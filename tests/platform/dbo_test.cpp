@@ -128,8 +128,7 @@ TEST_F(Project, countsItsElements) {
 
 TEST_F(Project, lockedByAnotherProgramSaysSoAndStaysAsItIs) {
     auto other = execute(path, "BEGIN EXCLUSIVE");
-    for (const Call& call : {Call([&] { openProject(path); }),
-             Call([&] { hasQuads(database, nullptr); }),
+    for (const Call& call : {Call([&] { openProject(path); }), Call([&] { hasQuads(database, nullptr); }),
              Call([&] { addElements(database, ElementKind::Quads, 1); })}) {
         EXPECT_EQ(refusal(call), path + ": database is locked");
     }
@@ -159,13 +158,11 @@ TEST(Handle, thatIsUnknownIsReportedOncePerCallAndHarmless) {
     EXPECT_NE(open, closed) << "handles are never used again";
     int count = -1;
     for (const Call& call : {Call([&] { EXPECT_FALSE(hasBrics(closed, &count)); }),
-             Call([&] { addElements(closed, ElementKind::Brics, 1); }),
-             Call([&] {
+             Call([&] { addElements(closed, ElementKind::Brics, 1); }), Call([&] {
                  storeTask(closed, {"name", 3, "text"});
              }),
              Call([&] { EXPECT_FALSE(removeTask(closed, "name")); }),
-             Call([&] { EXPECT_TRUE(tasks(closed).empty()); }),
-             Call([&] { closeProject(closed); })}) {
+             Call([&] { EXPECT_TRUE(tasks(closed).empty()); }), Call([&] { closeProject(closed); })}) {
         call();
         EXPECT_EQ(
             test::takeReports(), test::Reports({R"(0 && "invalid database handle" at platform/dbo/dbo:40)"}));

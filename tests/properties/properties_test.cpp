@@ -24,11 +24,8 @@ constexpr auto describe(const Inner*) {
     return bond::record<Inner>("sample.Inner",
         bond::field(
             "colour", &Inner::colour, {{"DisplayName", "Colour"}, {"Category", ""}, {"Editor", "swatch"}}),
-        bond::field("width",
-            &Inner::width,
-            {{"DisplayName", "Width"},
-                {"Precision", "2"},
-                {"ColumnWidth", "12"},
+        bond::field("width", &Inner::width,
+            {{"DisplayName", "Width"}, {"Precision", "2"}, {"ColumnWidth", "12"},
                 {"PropertyWeight", "-2147483648"}}),
         bond::field("big", &Inner::big, {{"DisplayName", "Big"}, {"Precision", "many"}}));
 }

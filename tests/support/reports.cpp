@@ -13,13 +13,16 @@ Reports recorded;
 class ReportListener : public testing::EmptyTestEventListener {
     void OnTestStart(const testing::TestInfo&) override { recorded.clear(); }
     void OnTestEnd(const testing::TestInfo&) override {
-        for (const std::string& report : takeReports()) ADD_FAILURE() << "unexpected assertion report: " << report;
+        for (const std::string& report : takeReports())
+            ADD_FAILURE() << "unexpected assertion report: " << report;
     }
 };
 
 }  // namespace
 
-Reports takeReports() { return std::exchange(recorded, {}); }
+Reports takeReports() {
+    return std::exchange(recorded, {});
+}
 
 void recordReports() {
     tiv::smartassert::setReporter([](const tiv::smartassert::Report& report) {

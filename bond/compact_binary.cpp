@@ -367,6 +367,7 @@ void Reader::skipElements(unsigned depth) {
     skip(type, count(), depth);
 }
 
+// The types of a map fill their bytes: other bits than those of a type make them unknown.
 void Reader::skipPairs(unsigned depth) {
     const auto key = static_cast<WireType>(byte());
     const auto value = static_cast<WireType>(byte());

@@ -35,7 +35,7 @@
 //      18 WString                varint n, n units UTF-16, low byte first
 //      10 Struct                 record
 //      11 List, 12 Set           one byte with the elements' type in bits 4 to 0, varint n, n values
-//      13 Map                    one such byte for keys and one for values, varint n, n pairs
+//      13 Map                    one byte with the keys' type, one with the values' type, varint n, n pairs
 //
 //     varint     seven bits a byte, lowest first; bit 7 says that another byte follows.
 //                A reader takes at most 3, 5 or 10 bytes for 16, 32 or 64 bits.

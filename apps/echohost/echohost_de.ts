@@ -169,8 +169,8 @@
         <translation>&amp;Dunkel</translation>
     </message>
     <message>
-        <source>Replace</source>
-        <translation>Ersetzen</translation>
+        <source>Use defaults</source>
+        <translation>Standardwerte übernehmen</translation>
     </message>
     <message>
         <source>Task</source>
@@ -229,8 +229,8 @@
         <translation>Keine Aufgabe ausgewählt.</translation>
     </message>
     <message>
-        <source>The stored settings cannot be read: %1. They are kept until you change an option or replace them by the options shown.</source>
-        <translation>Die gespeicherten Einstellungen sind nicht lesbar: %1. Sie bleiben erhalten, bis Sie eine Option ändern oder sie durch die gezeigten Optionen ersetzen.</translation>
+        <source>The stored settings cannot be read: %1. They are kept until you change an option or use the defaults.</source>
+        <translation>Die gespeicherten Einstellungen sind nicht lesbar: %1. Sie bleiben erhalten, bis Sie eine Option ändern oder die Standardwerte übernehmen.</translation>
     </message>
 </context>
 </TS>

@@ -20,6 +20,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSaveFile>
+#include <QScopeGuard>
 #include <QSignalBlocker>
 #include <QSplitter>
 #include <QStackedWidget>
@@ -36,12 +37,19 @@ namespace {
 
 enum Choice { AsSet, AllOff, AllFull };
 
-// A column of the window.
-QVBoxLayout* makePanel(QSplitter* parent) {
+// A column of the window: a line of controls, and views below it.
+QVBoxLayout* makePanel(QSplitter* parent, const std::vector<QWidget*>& controls) {
+    auto* line = new QHBoxLayout;
+    for (QWidget* control : controls) {
+        control->setMinimumHeight(QComboBox().sizeHint().height());  // the views begin at one height
+        line->addWidget(control);
+    }
+    line->addStretch();
     auto* panel = new QWidget;
     parent->addWidget(panel);
     auto* layout = new QVBoxLayout(panel);
     layout->setContentsMargins(0, 0, 0, 0);
+    layout->addLayout(line);
     return layout;
 }
 
@@ -55,14 +63,13 @@ QToolButton* makeButton(QAction* action) {
 
 MainWindow::MainWindow()
     : previousReporter_(tiv::smartassert::setReporter([this](const tiv::smartassert::Report& report) {
-          statusBar()->showMessage(
-              tr("Assertion failed: %1").arg(QString::fromStdString(std::string(report.expression))));
+          reports_ += tr("Assertion failed: %1").arg(QString::fromStdString(std::string(report.expression)));
       })) {
     setLanguage(QLocale());
     makeMenus();
     makePanels();
     retranslate();
-    resize(1080, 560);
+    resize(1160, 560);
 }
 
 MainWindow::~MainWindow() {
@@ -125,21 +132,17 @@ void MainWindow::makeMenus() {
 
 void MainWindow::makePanels() {
     auto* panels = new QSplitter;
+    panels->setContentsMargins(6, 6, 6, 0);
     setCentralWidget(panels);
 
     tasks_ = new QTreeWidget;
     tasks_->setColumnCount(2);
     tasks_->setRootIsDecorated(false);
     connect(tasks_, &QTreeWidget::currentItemChanged, this, [this] { attempt([this] { showTask(); }); });
-    auto* buttons = new QHBoxLayout;
-    buttons->addWidget(makeButton(add_));
-    buttons->addWidget(makeButton(remove_));
-    buttons->addStretch();
-    QVBoxLayout* left = makePanel(panels);
-    left->addWidget(tasks_);
-    left->addLayout(buttons);
+    makePanel(panels, {makeButton(add_), makeButton(remove_)})->addWidget(tasks_);
 
     messageBar_ = new QFrame;
+    messageBar_->setObjectName(QStringLiteral("messageBar"));
     messageBar_->setBackgroundRole(QPalette::ToolTipBase);
     messageBar_->setAutoFillBackground(true);
     message_ = new QLabel;
@@ -147,20 +150,20 @@ void MainWindow::makePanels() {
     message_->setTextFormat(Qt::PlainText);
     message_->setWordWrap(true);
     auto* replace = new QPushButton;
-    setText(replace, QT_TR_NOOP("Replace"));
+    setText(replace, QT_TR_NOOP("Use defaults"));
     connect(replace, &QPushButton::clicked, this, [this] { attempt([this] { replaceSettings(); }); });
     auto* bar = new QHBoxLayout(messageBar_);
     bar->addWidget(message_, 1);
     bar->addWidget(replace);
     heading_ = new QLabel;
     inspectors_ = new QStackedWidget;
-    QVBoxLayout* middle = makePanel(panels);
-    middle->addWidget(heading_);
+    QVBoxLayout* middle = makePanel(panels, {heading_});
     middle->addWidget(messageBar_);
     middle->addWidget(inspectors_, 1);
 
     language_ = new QComboBox;
     language_->addItems({QString(), QString()});
+    language_->setCurrentIndex(QLocale().language() == QLocale::German ? 0 : 1);
     choice_ = new QComboBox;
     choice_->addItems({QString(), QString(), QString()});
     for (QComboBox* box : {language_, choice_})
@@ -169,16 +172,9 @@ void MainWindow::makePanels() {
     preview_->setReadOnly(true);
     preview_->setLineWrapMode(QPlainTextEdit::NoWrap);
     preview_->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    auto* choices = new QHBoxLayout;
-    choices->addWidget(language_);
-    choices->addWidget(choice_);
-    choices->addStretch();
-    QVBoxLayout* right = makePanel(panels);
-    right->addLayout(choices);
-    right->addWidget(preview_);
+    makePanel(panels, {language_, choice_})->addWidget(preview_);
 
-    panels->setSizes({220, 430, 430});
-    statusBar();
+    panels->setSizes({210, 490, 460});
 }
 
 // ---- languages ----
@@ -374,12 +370,12 @@ void MainWindow::refresh() {
     heading_->setText(task ? programDescription(task->programType()) : tr("No task is selected."));
     messageBar_->setVisible(task && !task->problem().isEmpty());
     if (task)
-        message_->setText(
-            tr("The stored settings cannot be read: %1. They are kept until you change an option "
-               "or replace them by the options shown.")
-                .arg(task->problem()));
-    statusBar()->clearMessage();  // a report about these lines may follow
+        message_->setText(tr(
+            "The stored settings cannot be read: %1. They are kept until you change an option or use the defaults.")
+                              .arg(task->problem()));
     preview_->setPlainText(lines());
+    statusBar()->showMessage(reports_.join(QStringLiteral("; ")));
+    reports_.clear();
 }
 
 }  // namespace echohost

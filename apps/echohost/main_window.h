@@ -12,6 +12,7 @@
 
 #include <QLocale>
 #include <QMainWindow>
+#include <QStringList>
 #include <QTranslator>
 
 #include <functional>
@@ -77,6 +78,7 @@ class MainWindow : public QMainWindow {
     Task* currentTask() const;  // null when none is selected
     QString lines() const;      // the input lines of the current task
 
+    QStringList reports_;  // of the library, since they were last shown
     tiv::smartassert::Reporter previousReporter_;
     QTranslator texts_, qtTexts_;
     std::vector<std::pair<QObject*, const char*>> sources_;  // English texts, set again in each language

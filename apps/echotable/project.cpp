@@ -98,7 +98,7 @@ void info(const QCommandLineParser& arguments) {
 
 void store(const QCommandLineParser& arguments) {
     const QString name = arguments.positionalArguments().at(1);
-    if (name.isEmpty()) throw UsageError(QStringLiteral("expected a name for the task, got none"));
+    if (name.trimmed().isEmpty()) throw UsageError(QStringLiteral("expected a name for the task, got none"));
     const Project project(openProject(fileName(arguments)));
     const auto table = makeTable(arguments.positionalArguments().at(2), project);
     if (arguments.isSet(settingsOption())) readSettings(*table, arguments.value(settingsOption()));

@@ -1,9 +1,11 @@
 #include "apps/echotable/text.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
 #include <QTextCodec>
+#include <QVector>
 
 #include <algorithm>
 #include <cstdio>
@@ -19,9 +21,12 @@ QString inputName(const QString& file) {
 }
 
 QString readText(const QString& name) {
+    const bool piped = name == standardStream;
+    const QFileInfo present(name);
+    if (!piped && !present.exists()) throw failure(name, QStringLiteral("no such file"));
+    if (!piped && present.isDir()) throw failure(name, QStringLiteral("not a file"));
     QFile file(name);
-    const bool open =
-        name == standardStream ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
+    const bool open = piped ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
     const QByteArray bytes = open ? file.readAll() : QByteArray();
     if (file.error() != QFileDevice::NoError) throw failure(inputName(name), file.errorString());
     QString text = QTextCodec::codecForUtfText(bytes, QTextCodec::codecForName("UTF-8"))->toUnicode(bytes);
@@ -33,6 +38,7 @@ void writeText(const QString& name, const QString& text) {
     const QFileInfo present(name);
     if (present.exists() && !present.isFile())  // a device, say, would be replaced as well
         throw failure(name, QStringLiteral("not a file"));
+    if (!present.dir().exists()) throw failure(name, QStringLiteral("no such folder"));
     QSaveFile file(name);
     if (!file.open(QIODevice::WriteOnly)) throw failure(name, file.errorString());
     file.write(text.toUtf8());
@@ -60,9 +66,9 @@ QString jsonText(const QJsonDocument& document) {
 }
 
 QString aligned(const std::vector<QStringList>& rows) {
-    std::vector<int> widths;
+    QVector<int> widths;
     for (const QStringList& row : rows) {
-        widths.resize(std::max(widths.size(), static_cast<std::size_t>(row.size())));
+        widths.resize(std::max(widths.size(), row.size()));
         for (int i = 0; i < row.size(); ++i) widths[i] = std::max(widths[i], row[i].size());
     }
     QString text;

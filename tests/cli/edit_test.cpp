@@ -25,7 +25,11 @@ void edit(const QString& file, const std::function<void(test::Driver)>& steps) {
     QCommandLineParser arguments;
     arguments.addOptions(verb.options);
     ASSERT_TRUE(arguments.parse({"echotable", "esk", "--settings", file}));
-    QTimer::singleShot(0, qApp, [&] { steps(test::Driver(QApplication::activeModalWidget())); });
+    QTimer timer;
+    timer.setSingleShot(true);
+    QObject::connect(
+        &timer, &QTimer::timeout, [&] { steps(test::Driver(QApplication::activeModalWidget())); });
+    timer.start(0);
     verb.run(arguments);
 }
 
@@ -57,6 +61,13 @@ TEST(EditWindow, SavesOnOkOnly) {
     EXPECT_EQ(textOf(file), "ClAGAAA=\n");
 }
 
+TEST(EditWindow, NeedsASettingsFileThatCanBeRead) {
+    const QTemporaryDir folder;
+    const auto noSteps = [](const test::Driver&) { FAIL() << "a window opened"; };
+    EXPECT_THROW(edit("-", noSteps), tiv::tool::UsageError);
+    EXPECT_THROW(edit(folder.path(), noSteps), std::runtime_error);
+}
+
 TEST(EditWindow, StaysOpenWhenItCannotSave) {
     const QTemporaryDir folder;
     const QString file = folder.filePath("missing/static.txt");
@@ -65,7 +76,7 @@ TEST(EditWindow, StaysOpenWhenItCannotSave) {
         QTimer::singleShot(0, qApp, [&] {
             auto* message = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
             ASSERT_TRUE(message);
-            EXPECT_EQ(message->text(), file + ": No such file or directory");
+            EXPECT_EQ(message->text(), file + ": no such folder");
             message->accept();
         });
         press(QDialogButtonBox::Ok);

@@ -258,7 +258,7 @@ void Reader::readRecord(const Struct& description, void* record, unsigned depth)
             readField(description.rows[field.id], field.type, record, depth);
         else
             skip(field.type, 1, depth);
-        next = std::max(next, field.id);
+        next = std::max(next, field.id + 1);
     }
 }
 

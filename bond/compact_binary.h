@@ -66,7 +66,7 @@ Bytes writeCompactBinary(const Record& record) {
 // Reads the bytes into `record`, a fresh object of the type that `description` describes: fields that
 // the bytes lack keep their default. Accepted and left alone are
 //   - unknown fields, base records, and whatever follows the outermost Stop;
-//   - a known field after one of a higher id (of a field sent several times in a row the last counts);
+//   - a known field after one of the same or a higher id: of several values the first counts;
 //   - a known field of another type, unless widening the wire's number is all it needs: Int8 and Int16
 //     are read into an Int32, UInt8 and UInt16 into a UInt32, Float into a Double.
 //

@@ -106,7 +106,7 @@ TEST(Codec, AFieldKeepsWhatItCanHold) {
         {"90ffffffffff00", "91ffffffff0f"},          // i64 as Int32, five bytes at most
         {"830500", ""},                              // i64 as UInt8
         {"2f0400", ""},                              // i8 as Int16
-        {"2e052e0600", "2e06"},                      // i8 twice
+        {"2e052e0600", "2e05"},                      // i8 twice
         {"c308ff00", "c608ff01"},                    // u64 as UInt8
         {"c508ffffffff0f00", "c608ffffffff0f"},      // u64 as UInt32
         {"c5060500", ""},                            // u16 as UInt32

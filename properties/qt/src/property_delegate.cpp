@@ -1,5 +1,6 @@
 #include "properties/qt/src/property_delegate.h"
 
+#include "properties/qt/src/property_view.h"
 #include "properties/qt/src/record_item_model.h"
 
 #include <QAbstractItemView>
@@ -7,7 +8,6 @@
 #include <QMetaProperty>
 #include <QPainter>
 #include <QPainterPath>
-#include <QStyle>
 #include <QTimer>
 
 #include <algorithm>
@@ -32,11 +32,9 @@ void paintResetSign(QPainter* painter, const QRectF& cell, const QColor& colour)
     painter->restore();
 }
 
-int textMargin(const QStyle* style) {
-    return 2 * (style->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1);
-}
-
 }  // namespace
+
+PropertyDelegate::PropertyDelegate(PropertyView* view) : QStyledItemDelegate(view), view_(view) {}
 
 QWidget* PropertyDelegate::createEditor(
     QWidget* parent, const QStyleOptionViewItem& /*option*/, const QModelIndex& index) const {
@@ -91,18 +89,8 @@ void PropertyDelegate::paint(
             selected ? QPalette::HighlightedText : QPalette::Text));
 }
 
-QSize PropertyDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
-    QSize size = QStyledItemDelegate::sizeHint(option, index);
-    // Room for an editor, and for a text that needs more than one line.
-    size.setHeight(std::max(size.height(), option.fontMetrics.height() * 3 / 2));
-    if (index.column() == RecordItemModel::ResetColumn || view_->uniformRowHeights()) return size;
-    QFont font = option.font;
-    font.setBold(true);
-    const QRect room(0, 0, view_->columnWidth(index.column()) - textMargin(view_->style()), 10000);
-    const int needed =
-        QFontMetrics(font).boundingRect(room, Qt::TextWordWrap, index.data().toString()).height();
-    size.setHeight(std::max(size.height(), needed + option.fontMetrics.height() / 2));
-    return size;
+QSize PropertyDelegate::sizeHint(const QStyleOptionViewItem& /*option*/, const QModelIndex& index) const {
+    return {view_->columnWidth(index.column()), view_->heightOf(index)};
 }
 
 }  // namespace tiv::properties

@@ -4,14 +4,15 @@
 #include "properties/qt/src/editors.h"
 
 #include <QStyledItemDelegate>
-#include <QTreeView>
 
 namespace tiv::properties {
+
+class PropertyView;
 
 class PropertyDelegate : public QStyledItemDelegate {
     Q_OBJECT
  public:
-    explicit PropertyDelegate(QTreeView* view) : QStyledItemDelegate(view), view_(view) {}
+    explicit PropertyDelegate(PropertyView* view);
 
     QWidget* createEditor(
         QWidget* parent, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
@@ -30,7 +31,7 @@ class PropertyDelegate : public QStyledItemDelegate {
  private:
     void open(NamedValueEditor* list) const;
 
-    QTreeView* view_;
+    PropertyView* view_;
     DefaultEditorFactory factory_;
 };
 

@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QDateTime>
 #include <QEvent>
+#include <QFontMetrics>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QPainter>
@@ -46,7 +47,6 @@ PropertyView::PropertyView(QWidget* parent) : QTreeView(parent) {
     setTabKeyNavigation(false);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setTextElideMode(Qt::ElideRight);
-    setWordWrap(true);
     header()->setSectionsMovable(false);
     header()->setStretchLastSection(false);
     header()->setMinimumSectionSize(1);
@@ -63,36 +63,67 @@ bool PropertyView::hasVisibleRows() const {
     return false;
 }
 
-// Widths as if everything were bold, so that a change of a value moves nothing.
-void PropertyView::measure() {
-    const auto* rows = static_cast<const RecordItemModel*>(model());
+// As if everything were bold, so that a change of a value moves nothing. Kept: most levels are offered in
+// every row, and shaping a text is what costs.
+int PropertyView::widthOf(const QString& text) const {
+    const auto known = widths_.constFind(text);
+    if (known != widths_.constEnd()) return *known;
+    return *widths_.insert(text, QFontMetrics(boldFont()).horizontalAdvance(text) + margin());
+}
+
+QFont PropertyView::boldFont() const {
     QFont bold = font();
     bold.setBold(true);
-    const QFontMetrics metrics(bold);
-    const int margin = 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1) + 2;
-    const auto widen = [&](int& width, const QString& text) {
-        width = std::max(width, metrics.horizontalAdvance(text) + margin);
+    return bold;
+}
+
+int PropertyView::margin() const {
+    return 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1) + 2;
+}
+
+void PropertyView::measure() {
+    const auto* rows = static_cast<const RecordItemModel*>(model());
+    const auto header = [&](int column) {
+        return rows->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
     };
-    labelWidth_ = wordWidth_ = valueWidth_ = 0;
-    widen(wordWidth_, rows->headerData(labelColumn, Qt::Horizontal, Qt::DisplayRole).toString());
-    widen(valueWidth_, rows->headerData(valueColumn, Qt::Horizontal, Qt::DisplayRole).toString());
+    labelWidth_ = widthOf(header(labelColumn));
+    valueWidth_ = widthOf(header(valueColumn));
     for (int row = 0; row < rows->rowCount(); ++row) {
         const QModelIndex label = rows->index(row, labelColumn);
-        const QString text = label.data().toString();
-        widen(labelWidth_, text);
-        for (const QString& word : text.split(QLatin1Char(' '))) widen(wordWidth_, word);
+        labelWidth_ = std::max(labelWidth_, widthOf(label.data().toString()));
         const auto property = rows->property(label);
         if (!property) continue;
         const int characters = property->columnWidth ? QString::fromUtf8(property->columnWidth).toInt() : 0;
-        valueWidth_ = std::max(valueWidth_, characters * metrics.averageCharWidth() + margin);
+        valueWidth_ = std::max(valueWidth_, characters * fontMetrics().averageCharWidth());
         const auto* entries = property->configuration.get<NamedValues>("editor.entries");
         if (!entries) continue;
-        for (const NamedValue& entry : **entries) widen(valueWidth_, entry.text);
+        for (const NamedValue& entry : **entries) valueWidth_ = std::max(valueWidth_, widthOf(entry.text));
     }
+}
+
+// The widest word of a label.
+int PropertyView::wordWidth() const {
+    int width = 0;
+    for (int row = 0; row < model()->rowCount(); ++row)
+        for (const QString& word : model()->index(row, labelColumn).data().toString().split(QLatin1Char(' ')))
+            width = std::max(width, widthOf(word));
+    return width;
+}
+
+int PropertyView::heightOf(const QModelIndex& cell) const {
+    const int line = fontMetrics().height() * 3 / 2;  // room for an editor
+    if (cell.column() == resetColumn) return line;
+    const QString text = cell.data().toString();
+    const int width = columnWidth(cell.column());
+    if (widthOf(text) <= width) return line;
+    const QRect room(0, 0, width - margin(), 10000);
+    const int wrapped = QFontMetrics(boldFont()).boundingRect(room, Qt::TextWordWrap, text).height();
+    return std::max(line, wrapped + fontMetrics().height() / 2);
 }
 
 void PropertyView::measureAgain() {
     labelWidth_ = -1;
+    widths_.clear();
     fitColumns();
 }
 
@@ -103,12 +134,14 @@ void PropertyView::fitColumns() {
     if (labelWidth_ < 0) measure();
     const int reset = fontMetrics().height() * 3 / 2;
     const int width = viewport()->width() - reset;
-    const int label = std::max(std::min(width - valueWidth_, labelWidth_), wordWidth_);
+    const int left = width - valueWidth_;
+    const int label = left >= labelWidth_ ? labelWidth_ : std::max(left, wordWidth());
     const bool wraps = label < labelWidth_ || width - label < valueWidth_;
     header()->resizeSection(labelColumn, label);
     header()->resizeSection(valueColumn, std::max(1, width - label));
     header()->resizeSection(resetColumn, reset);
     setUniformRowHeights(!wraps);
+    setWordWrap(wraps);
     if (wraps) scheduleDelayedItemsLayout();
 }
 

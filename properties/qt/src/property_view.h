@@ -2,6 +2,7 @@
 // where there is nothing to show.
 #pragma once
 
+#include <QHash>
 #include <QString>
 #include <QTreeView>
 
@@ -17,6 +18,8 @@ class PropertyView : public QTreeView {
     // The rows or their texts have changed: makes room for them.
     void measureAgain();
     bool hasVisibleRows() const;
+    // What a cell needs in its column, in pixels.
+    int heightOf(const QModelIndex& cell) const;
     // Opens the editor of the row.
     void editRow(const QModelIndex& index);
 
@@ -35,13 +38,17 @@ class PropertyView : public QTreeView {
 
  private:
     void measure();
+    int widthOf(const QString& text) const;
+    int wordWidth() const;
+    int margin() const;
+    QFont boldFont() const;
     void fitColumns();
 
     QString placeholder_;
+    mutable QHash<QString, int> widths_;
     QString searched_;
     qint64 searchedAt_ = 0;
     int labelWidth_ = -1;  // what the widest label needs; -1: not measured
-    int wordWidth_ = 0;    // the widest word of a label
     int valueWidth_ = 0;   // the widest value offered
 };
 

@@ -39,7 +39,7 @@ RecordItemModel::RecordItemModel(std::shared_ptr<Properties> properties,
       properties_(std::move(properties)),
       signals_(std::move(model), std::move(selection)),
       editable_(std::move(editable)) {
-    connect(&signals_, &DataModelSignals::recordChanged, this, &RecordItemModel::updateAll);
+    connect(&signals_, &DataModelSignals::recordChanged, this, &RecordItemModel::updateChanged);
     connect(&signals_, &DataModelSignals::recordChanged, this, &RecordItemModel::recordChanged);
     show([](const std::string&) { return true; });
 }
@@ -59,7 +59,8 @@ void RecordItemModel::show(const std::function<bool(const std::string&)>& shows)
             category = property->category;
             if (!category.empty()) rows_.push_back({property, true});
         }
-        rows_.push_back({std::move(property), false});
+        const QVariant value = current(*property);
+        rows_.push_back({std::move(property), false, value});
     }
     endResetModel();
 }
@@ -67,6 +68,20 @@ void RecordItemModel::show(const std::function<bool(const std::string&)>& shows)
 void RecordItemModel::retranslate() {
     emit headerDataChanged(Qt::Horizontal, LabelColumn, ValueColumn);
     updateAll();
+}
+
+void RecordItemModel::updateChanged() {
+    for (int row = 0; row < rowCount(); ++row) {
+        ShownRow& shown = rows_[static_cast<std::size_t>(row)];
+        QVariant value = shown.heading ? QVariant() : current(*shown.property);
+        if (value == shown.told) continue;
+        const QVariant byDefault = defaultValue(*shown.property);
+        const bool marks = (value == byDefault) != (shown.told == byDefault);
+        shown.told = std::move(value);
+        // Cell by cell: a view repaints itself as a whole for anything larger.
+        for (const int column : {ValueColumn, LabelColumn, ResetColumn})
+            if (marks || column == ValueColumn) emit dataChanged(index(row, column), index(row, column));
+    }
 }
 
 void RecordItemModel::updateAll() {

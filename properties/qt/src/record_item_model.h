@@ -63,8 +63,10 @@ class RecordItemModel : public QAbstractTableModel {
     struct ShownRow {
         std::shared_ptr<const Property> property;  // the row's, or the first one below the heading
         bool heading;
+        QVariant told = {};  // the value that the view last heard of: only tells whether it has to hear again
     };
 
+    void updateChanged();
     void updateAll();
     QVariant cell(const QModelIndex& index, const Property& property, int role) const;
     QString tooltipText(const Property& property, const QVariant& value) const;

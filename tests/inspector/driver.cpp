@@ -103,6 +103,10 @@ void Driver::choose(const QString& label, const QString& level) {
     pick(level);
 }
 
+QString Driver::tip(const QString& label) const {
+    return view->indexAt(cell(label, 1).center()).data(Qt::ToolTipRole).toString();
+}
+
 QString Driver::message() const {
     for (const auto* label : widget->findChildren<QLabel*>(QString(), Qt::FindDirectChildrenOnly))
         if (label->isVisible()) return label->text();

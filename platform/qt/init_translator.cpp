@@ -34,10 +34,9 @@ class Catalogue : public QObject {
         locale_ = locale;  // before the change: installing sends a LanguageChange itself
         auto translator = std::make_unique<QTranslator>();
         const QString folder = libraryFolder();
-        const bool found =
-            load(*translator, folder) ||
-            load(*translator, folder + QStringLiteral("/../share/tiv_echotable/translations")) ||
-            load(*translator, QStringLiteral(":/tiv/translations"));
+        const bool found = load(*translator, folder) ||
+                           load(*translator, folder + QStringLiteral("/" TIV_CATALOGUES)) ||
+                           load(*translator, QStringLiteral(":/tiv/translations"));
         const auto previous = std::exchange(translator_, found ? std::move(translator) : nullptr);
         if (translator_) QCoreApplication::installTranslator(translator_.get());
         if (previous) QCoreApplication::removeTranslator(previous.get());

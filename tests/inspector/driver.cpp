@@ -3,7 +3,10 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QLabel>
+#include <QMenu>
 #include <QTest>
+
+#include <algorithm>
 
 namespace test {
 
@@ -101,6 +104,20 @@ void Driver::pick(const QString& level) {
 void Driver::choose(const QString& label, const QString& level) {
     click(label);
     pick(level);
+}
+
+void Driver::menu(const QString& entry) {
+    emit view->customContextMenuRequested({});
+    QList<QAction*> actions = widget->findChild<QMenu*>(QString(), Qt::FindDirectChildrenOnly)->actions();
+    for (const QString& text : entry.split('/')) {
+        const auto named = [&](const QAction* one) { return one->text() == text && one->isEnabled(); };
+        const auto found = std::find_if(actions.begin(), actions.end(), named);
+        if (found == actions.end()) break;
+        QMenu* below = (*found)->menu();
+        below ? void(actions = below->actions()) : (*found)->trigger();
+    }
+    QApplication::activePopupWidget()->close();
+    settle();
 }
 
 QString Driver::tip(const QString& label) const {

@@ -27,6 +27,7 @@ class Driver {
     QString marked() const;  // the list's current entry
     void pick(const QString& level);
     void choose(const QString& label, const QString& level);  // two clicks
+    void menu(const QString& entry);                          // of the context menu: "Set to/Full output"
     QString tip(const QString& label) const;
     QString message() const;  // the sentence below the table; empty when none is shown
     bool hasFocus() const;

@@ -38,6 +38,7 @@ class Session {
             {"name", [&] { driver->click(text, 0); }},
             {"also", [&] { driver->click(text, 0, Qt::ControlModifier); }},
             {"sign", [&] { driver->click(text, 2); }},
+            {"menu", [&] { driver->menu(text); }},
             {"pick", [&] { driver->pick(text); }},
             {"press", [&] { press(text); }},
             {"type", [&] { driver->type(text); }},

@@ -148,29 +148,30 @@ void QtInspectorWidget::showMenu(const QPoint& position) {
     const auto selected = selectedProperties();
     const auto changed = shownChanged();
     const bool editable = rows_->isEditable();
-    QMenu menu(this);
+    auto* menu = new QMenu(this);  // not waited for: the inspector may go while it is open
+    menu->setAttribute(Qt::WA_DeleteOnClose);
     const auto add = [&](const QString& text, bool enabled, auto action) {
-        QAction* entry = menu.addAction(text);
+        QAction* entry = menu->addAction(text);
         entry->setEnabled(enabled);
         connect(entry, &QAction::triggered, this, action, Qt::QueuedConnection);
     };
-    addLevelMenu(menu, selected);
+    addLevelMenu(*menu, selected);
     add(rows_->text("Reset to default"), editable && !selected.empty(), [this, selected] {
         reset(selected);
     });
     add(rows_->text("Reset all shown (%1)").arg(changed.size()),
         editable && !changed.empty(),
         [this, changed] { reset(changed); });
-    menu.addSeparator();
+    menu->addSeparator();
     add(rows_->text("Undo"), editable && undo_.canUndo(), [this] { undo(); });
     add(rows_->text("Redo"), editable && undo_.canRedo(), [this] { redo(); });
-    menu.addSeparator();
+    menu->addSeparator();
     add(rows_->text("Copy"), !selected.empty(), [this] { copyRows(); });
     if (host_.copySettings) add(rows_->text("Copy settings"), editable, [this] { copySettings(); });
     if (host_.pasteSettings) add(rows_->text("Paste settings"), editable, [this] { pasteSettings(); });
-    menu.addSeparator();
+    menu->addSeparator();
     add(rows_->text("Filter"), true, [this] { showFilter(); });
-    menu.exec(view_->viewport()->mapToGlobal(position));
+    menu->popup(view_->viewport()->mapToGlobal(position));
 }
 
 void QtInspectorWidget::addLevelMenu(

@@ -8,6 +8,7 @@
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("echohost"));
+    QApplication::setApplicationDisplayName(QApplication::applicationName());  // ends every window title
     QApplication::setApplicationVersion(QStringLiteral(TIV_VERSION));
 
     const QCommandLineOption dark(

@@ -12,7 +12,6 @@
 #include <QFileInfo>
 #include <QFontDatabase>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QLibraryInfo>
 #include <QMenuBar>
@@ -20,7 +19,6 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSaveFile>
-#include <QScopeGuard>
 #include <QSignalBlocker>
 #include <QSplitter>
 #include <QStackedWidget>
@@ -29,7 +27,6 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
-#include <algorithm>
 #include <stdexcept>
 
 namespace echohost {
@@ -63,7 +60,8 @@ QToolButton* makeButton(QAction* action) {
 
 MainWindow::MainWindow()
     : previousReporter_(tiv::smartassert::setReporter([this](const tiv::smartassert::Report& report) {
-          reports_ += tr("Assertion failed: %1").arg(QString::fromStdString(std::string(report.expression)));
+          const auto expression = QString::fromStdString(std::string(report.expression));
+          statusBar()->showMessage(tr("Assertion failed: %1").arg(expression), 10000);
       })) {
     setLanguage(QLocale());
     makeMenus();
@@ -119,7 +117,7 @@ void MainWindow::makeMenus() {
         const QLocale locale(language);
         QAction* action = languages->addAction(language == QLocale::German ? "Deutsch" : "English");
         action->setCheckable(true);
-        action->setChecked(QLocale().language() == language);
+        action->setChecked((QLocale().language() == QLocale::German) == (language == QLocale::German));
         group->addAction(action);
         connect(action, &QAction::triggered, this, [this, locale] { setLanguage(locale); });
     }
@@ -175,6 +173,7 @@ void MainWindow::makePanels() {
     makePanel(panels, {language_, choice_})->addWidget(preview_);
 
     panels->setSizes({210, 490, 460});
+    statusBar();  // from the start: the panels stay where they are when it speaks
 }
 
 // ---- languages ----
@@ -213,6 +212,7 @@ void MainWindow::attempt(const std::function<void()>& action) {
     } catch (const std::exception& problem) {
         QMessageBox::critical(this, QCoreApplication::applicationName(), QString::fromUtf8(problem.what()));
     }
+    refresh();
 }
 
 void MainWindow::openProject(const QString& file) {
@@ -226,7 +226,6 @@ void MainWindow::openProject(const QString& file) {
         project_ = std::move(project);
         for (std::size_t i = 0; i < project_->tasks().size(); ++i) appendRow();
         tasks_->setCurrentItem(tasks_->topLevelItem(0));
-        refresh();
     });
 }
 
@@ -253,7 +252,6 @@ void MainWindow::chooseProject() {
 }
 
 void MainWindow::saveProject() {
-    const auto show = qScopeGuard([this] { refresh(); });
     project_->save();
 }
 
@@ -275,8 +273,9 @@ void MainWindow::exportLines() {
     const QString file = QFileDialog::getSaveFileName(this, tr("Export ECHO lines"));
     if (file.isEmpty()) return;
     QSaveFile output(file);
-    if (output.open(QIODevice::WriteOnly)) output.write(lines().toUtf8());
-    if (!output.commit()) throw std::runtime_error((file + ": " + output.errorString()).toStdString());
+    const bool written =
+        output.open(QIODevice::WriteOnly) && output.write(lines().toUtf8()) >= 0 && output.commit();
+    if (!written) throw std::runtime_error((file + ": " + output.errorString()).toStdString());
 }
 
 // ---- its tasks ----
@@ -297,7 +296,7 @@ void MainWindow::appendRow() {
 
 void MainWindow::showTask() {
     Task* task = currentTask();
-    if (!task) return refresh();
+    if (!task) return;
     QWidget* page = inspectors_->widget(currentRow());
     if (!page->layout()) {
         QWidget* inspector = task->echo().createPropertyInspector(page);
@@ -308,7 +307,6 @@ void MainWindow::showTask() {
         layout->addWidget(inspector);
     }
     inspectors_->setCurrentWidget(page);
-    refresh();
 }
 
 void MainWindow::addTask() {
@@ -336,7 +334,6 @@ void MainWindow::removeTask() {
 
 void MainWindow::replaceSettings() {
     currentTask()->replaceStored();
-    refresh();
 }
 
 // ---- what follows ----
@@ -354,7 +351,8 @@ QString MainWindow::lines() const {
 
 void MainWindow::refresh() {
     const Task* task = currentTask();
-    setWindowTitle(project_ ? QFileInfo(project_->file()).fileName() + "[*]" : QString());
+    setWindowTitle(
+        project_ ? QFileInfo(project_->file()).fileName() + "[*]" : QCoreApplication::applicationName());
     setWindowModified(project_ && project_->isChanged());
     save_->setEnabled(isWindowModified());
     add_->setEnabled(project_ != nullptr);
@@ -368,14 +366,13 @@ void MainWindow::refresh() {
         item->setToolTip(1, programDescription(shown.programType()));
     }
     heading_->setText(task ? programDescription(task->programType()) : tr("No task is selected."));
-    messageBar_->setVisible(task && !task->problem().isEmpty());
-    if (task)
-        message_->setText(tr(
-            "The stored settings cannot be read: %1. They are kept until you change an option or use the defaults.")
-                              .arg(task->problem()));
+    const QString problem = task ? task->problem() : QString();
+    messageBar_->setVisible(!problem.isEmpty());
+    message_->setText(
+        tr("The stored settings cannot be read: %1. They are kept until you change an option "
+           "or use the defaults.")
+            .arg(problem));
     preview_->setPlainText(lines());
-    statusBar()->showMessage(reports_.join(QStringLiteral("; ")));
-    reports_.clear();
 }
 
 }  // namespace echohost

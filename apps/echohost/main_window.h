@@ -12,7 +12,6 @@
 
 #include <QLocale>
 #include <QMainWindow>
-#include <QStringList>
 #include <QTranslator>
 
 #include <functional>
@@ -45,11 +44,10 @@ class MainWindow : public QMainWindow {
     void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
- private slots:
-    // Brings everything up to date that follows from the project, the selected task and its options.
-    void refresh();
-
  private:
+    // Brings everything up to date that follows from the project, the selected task and its options.
+    Q_SLOT void refresh();
+
     using Slot = void (MainWindow::*)();
 
     void makeMenus();
@@ -69,7 +67,7 @@ class MainWindow : public QMainWindow {
     void replaceSettings();
     void showTask();
 
-    // Qt cannot pass exceptions through its event loop: they end here, as a message.
+    // Qt cannot pass exceptions through its event loop: they end here, as a message. Refreshes.
     void attempt(const std::function<void()>& action);
     // False when the engineer would rather stay with the unsaved changes.
     bool mayLeave();
@@ -78,7 +76,6 @@ class MainWindow : public QMainWindow {
     Task* currentTask() const;  // null when none is selected
     QString lines() const;      // the input lines of the current task
 
-    QStringList reports_;  // of the library, since they were last shown
     tiv::smartassert::Reporter previousReporter_;
     QTranslator texts_, qtTexts_;
     std::vector<std::pair<QObject*, const char*>> sources_;  // English texts, set again in each language

@@ -37,10 +37,6 @@ QString Task::problem() const {
     return isEdited() ? QString() : problem_;
 }
 
-std::string Task::settings() const {
-    return isEdited() ? echo_->getXMLData().toStdString() : task_.settings;
-}
-
 void Task::replaceStored() {
     unedited_ = echo().getXMLData();
     task_.settings = unedited_.toStdString();
@@ -50,10 +46,8 @@ void Task::replaceStored() {
 
 void Task::save() {
     if (!isChanged()) return;
-    dbo::Task changed = task_;
-    changed.settings = settings();
-    dbo::storeTask(database_, changed);
     replaceStored();
+    dbo::storeTask(database_, task_);
     isStored_ = true;
 }
 

@@ -32,17 +32,17 @@ class Task {
     // Made when it is first asked for.
     tiv::echo::EchoData& echo();
 
-    // The library's text, when it cannot read the stored settings; empty otherwise, and while the
-    // engineer's choice is to replace them.
+    // The library's text, when it cannot read the stored settings; empty otherwise, and while they
+    // are to be replaced.
     QString problem() const;
 
-    // The settings to store: the stored text itself, byte for byte, until an option is changed. So a text
-    // that could not be read is not lost, and one that an option's undo restores is no change.
-    std::string settings() const;
+    // Gives up the stored settings for those that the inspector shows, with the next save.
+    void replaceStored();
+
     bool isChanged() const { return !isStored_ || isEdited(); }
 
-    // Gives up the stored settings for those that the inspector shows.
-    void replaceStored();
+    // Stores a task that has changed. Any other keeps its stored text byte for byte, so that a text that
+    // the library cannot read is not lost.
     void save();
 
  private:

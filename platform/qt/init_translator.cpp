@@ -15,7 +15,7 @@ namespace {
 // The catalogue of the application's locale, changed with it.
 class Catalogue : public QObject {
  public:
-    Catalogue(const QString& name, QCoreApplication* application) : QObject(application), name_(name) {
+    Catalogue(QString name, QCoreApplication* application) : QObject(application), name_(std::move(name)) {
         application->installEventFilter(this);
         follow();
     }

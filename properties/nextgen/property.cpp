@@ -56,7 +56,7 @@ QVariant read(const bond::Row& field, const void* record) {
     return bond::visitMember(field, record, []<class T>(const T& member) -> QVariant {
         if constexpr (std::is_same_v<T, std::string>)
             return QString::fromStdString(member);
-        else if constexpr (std::is_same_v<T, bool>)
+        else if constexpr (std::is_same_v<T, bool> || std::is_same_v<T, std::uint32_t>)
             return member;
         else if constexpr (std::is_floating_point_v<T>)
             return double{member};
@@ -64,8 +64,6 @@ QVariant read(const bond::Row& field, const void* record) {
             return static_cast<qlonglong>(member);
         else if constexpr (std::is_same_v<T, std::uint64_t>)
             return static_cast<qulonglong>(member);
-        else if constexpr (std::is_same_v<T, std::uint32_t>)
-            return member;
         else
             return int{member};
     });

@@ -29,8 +29,8 @@ class SelectionManager {
         changed_();
     }
 
-    boost::signals2::connection onChange(std::function<void()> observer) {
-        return changed_.connect(std::move(observer));
+    boost::signals2::connection onChange(const std::function<void()>& observer) {
+        return changed_.connect(observer);
     }
 
  private:

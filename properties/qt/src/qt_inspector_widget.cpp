@@ -45,6 +45,7 @@ QString folded(const QString& text) {
 std::vector<PropertyValue> valuesOf(
     const RecordItemModel& rows, const std::vector<std::shared_ptr<Property>>& list) {
     std::vector<PropertyValue> values;
+    values.reserve(list.size());
     for (const auto& property : list) values.push_back({property, rows.current(*property)});
     return values;
 }
@@ -237,6 +238,7 @@ void QtInspectorWidget::choose(
 
 void QtInspectorWidget::reset(const std::vector<std::shared_ptr<const Property>>& targets) {
     std::vector<PropertyValue> wanted;
+    wanted.reserve(targets.size());
     for (const auto& property : targets) wanted.push_back({property, defaultValue(*property)});
     apply(wanted);
 }

@@ -12,6 +12,7 @@
 #include <QFileInfo>
 #include <QFontDatabase>
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLibraryInfo>
 #include <QMenuBar>
@@ -136,6 +137,9 @@ void MainWindow::makePanels() {
     tasks_ = new QTreeWidget;
     tasks_->setColumnCount(2);
     tasks_->setRootIsDecorated(false);
+    tasks_->header()->setStretchLastSection(false);
+    tasks_->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    tasks_->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
     connect(tasks_, &QTreeWidget::currentItemChanged, this, [this] { attempt([this] { showTask(); }); });
     makePanel(panels, {makeButton(add_), makeButton(remove_)})->addWidget(tasks_);
 

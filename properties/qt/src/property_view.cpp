@@ -142,7 +142,7 @@ void PropertyView::fitColumns() {
     header()->resizeSection(resetColumn, reset);
     setUniformRowHeights(!wraps);
     setWordWrap(wraps);
-    if (wraps) scheduleDelayedItemsLayout();
+    scheduleDelayedItemsLayout();  // the heights follow from the widths
 }
 
 void PropertyView::editRow(const QModelIndex& index) {

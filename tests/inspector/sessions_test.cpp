@@ -84,9 +84,10 @@ class Session {
     }
 
     void press(const QString& keys) {
-        const int key = QKeySequence(keys)[0];
+        const auto combination = static_cast<unsigned>(QKeySequence(keys)[0]);
+        const unsigned modifiers = combination & static_cast<unsigned>(Qt::KeyboardModifierMask);
         host_->driver->key(
-            key & ~Qt::KeyboardModifierMask, Qt::KeyboardModifiers(key & Qt::KeyboardModifierMask));
+            static_cast<int>(combination - modifiers), Qt::KeyboardModifiers(static_cast<int>(modifiers)));
     }
 
     static void speak(const QString& language) {

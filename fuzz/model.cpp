@@ -1,0 +1,10 @@
+// The transactional object model beside a naive one. A byte is an operation, as
+// tests/container/operation_sequence.h says; memory runs out where the bytes want it to.
+#include "container/operation_sequence.h"
+#include "fuzz/target.h"
+
+int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    test::runOperations({data, size});
+    fuzz::require(test::Value::alive == 0, "objects outlive their model");
+    return 0;
+}

@@ -11,7 +11,6 @@
 
 #include <charconv>
 #include <cmath>
-#include <limits>
 #include <optional>
 #include <vector>
 
@@ -63,7 +62,8 @@ bool readValue(const Json& json, T& value) {
         if (!json.IsBool()) return false;
         value = json.GetBool();
     } else if constexpr (std::is_floating_point_v<T>) {
-        if (!json.IsNumber() || std::abs(json.GetDouble()) > std::numeric_limits<T>::max()) return false;
+        // The greatest float as text may be read as a double that is a little more.
+        if (!json.IsNumber() || !std::isfinite(static_cast<T>(json.GetDouble()))) return false;
         value = static_cast<T>(json.GetDouble());
     } else if constexpr (std::is_unsigned_v<T>) {
         if (!json.IsUint64() || !std::in_range<T>(json.GetUint64())) return false;

@@ -41,14 +41,11 @@ struct Value {
 
 struct BothModels {
     using Content = std::map<model::Key, std::pair<int, int>>;
-    struct Handled {
-        model::ObjectHandle<Value> handle;
-        int identity = 0;
-    };
 
     model::Model real;
     std::unique_ptr<model::Transaction> transaction;
-    std::map<model::Key, Handled> handles;
+    std::map<model::Key, model::ObjectHandle<Value>> handles;
+    std::map<model::Key, int> handled;   // identities
     Content naive, committed, reported;  // reported: to observers
     int step = 0, failures = 0;
 
@@ -75,7 +72,6 @@ struct BothModels {
 
     void operate(int operation, const model::Key& key, int length) {
         const bool open = transaction != nullptr, present = naive.count(key) != 0;
-        Handled& handled = handles[key];
         if (operation == 0) {
             const auto begin = [&] { transaction = std::make_unique<model::Transaction>(real); };
             if (done(length, !open, begin)) committed = naive;
@@ -89,11 +85,11 @@ struct BothModels {
         } else if (operation == 4 && open) {
             if (done(length, present, [&] { transaction->erase(key); })) naive.erase(key);
         } else if (operation == 5) {
-            if (done(length, present, [&] { handled.handle = real.handle<Value>(key); }))
-                handled.identity = naive[key].first;
+            if (done(length, present, [&] { handles[key] = real.handle<Value>(key); }))
+                handled[key] = naive[key].first;
         } else if (operation > 5) {
-            const bool current = open && present && naive[key].first == handled.identity;
-            if (done(length, current, [&] { handled.handle.modify().content.second = step; }))
+            const bool current = open && present && naive[key].first == handled[key];
+            if (done(length, current, [&] { handles[key].modify().content.second = step; }))
                 naive[key].second = step;
         }
     }

@@ -3,10 +3,16 @@
 #include "bond/exceptions.h"
 #include "echo/expected_options.h"
 #include "echo/src/internal_data.h"
+#include "support/failure.h"
 #include "support/printing.h"
 #include "support/reports.h"
+#include "support/table.h"
 
-#include <gtest/gtest.h>
+#include <QCoreApplication>
+#include <QEvent>
+#include <QLocale>
+
+#include <gmock/gmock.h>
 
 namespace {
 
@@ -17,14 +23,10 @@ using Lines = std::vector<QString>;
 const Project everything(everyKind);
 
 TEST(EchoData, WithoutOptionsAnswersNothingAndReportsOnlyAnUnknownType) {
-    const Reports invalid{R"(0 && "invalid prog_type" at echo/src/internal_data:120)"};
-    const struct {
-        std::uint32_t type;
-        Reports reports;
-    } rows[] = {{12, {}}, {14, invalid}, {0xFFFFFFFF, invalid}};
-    for (const auto& row : rows) {
-        EchoData echo(static_cast<EchoData::ProgrammTypes>(row.type), everything.handle);
-        EXPECT_EQ(takeReports(), row.reports) << row.type;
+    for (const unsigned type : {12U, 14U, 0xFFFFFFFF}) {
+        EchoData echo(static_cast<EchoData::ProgrammTypes>(type), everything.handle);
+        const Reports invalid{R"(0 && "invalid prog_type" at echo/src/internal_data:120)"};
+        EXPECT_EQ(takeReports(), type == 12 ? Reports() : invalid) << type;
         echo.insertXMLData("{");
         EXPECT_TRUE(echo.getXMLData().isNull());
         EXPECT_TRUE(echo.getTELINP(true, true, 1).empty());
@@ -32,92 +34,56 @@ TEST(EchoData, WithoutOptionsAnswersNothingAndReportsOnlyAnUnknownType) {
     }
 }
 
-TEST(EchoData, WithAnUnknownDatabaseStillServesOptionsThatNeedNoElements) {
-    EchoData echo(EchoData::PLAX2, -1);
-    EXPECT_EQ(takeReports().size(), 5u);  // one per kind of element
-    echo.insertXMLData(R"({"prop":{"beam":3,"mat":3}})");
-    EXPECT_EQ(echo.getTELINP(false, false, 1), Lines{"ECHO OPT MAT VAL FULL $ Material constants"});
-}
-
-TEST(AllOptionsLine, StandsAloneWhateverIsStored) {
-    EchoData echo(EchoData::ESK, everything.handle);
-    echo.insertXMLData("ChAGAAA=");
-    EXPECT_EQ(echo.getTELINP(true, false, 0), Lines{"ECHO VOLL NEIN $ no output of text lists"});
-    EXPECT_EQ(echo.getTELINP(true, true, 0), Lines{"ECHO VOLL VOLL $ extensive output of text lists"});
-    EXPECT_EQ(echo.getTELINP(true, false, 1), Lines{"ECHO FULL NO $ no output of text lists"});
-    EXPECT_EQ(echo.getTELINP(true, true, 2), Lines{"ECHO FULL FULL $ extensive output of text lists"});
-}
-
-TEST(SettingsString, IsReadInEitherForm) {
-    const struct {
-        const char* text;
-        const char* saved;  // what getXMLData then gives
-    } rows[] = {
-        {"CgAA", "CgAA\n"},
-        {"ChAGAAA=\n", "ChAGAAA=\n"},
-        {"\n\nChAGAAA=\n\n", "ChAGAAA=\n"},
-        {" C h A G-AA-A=", "ChAGAAA=\n"},  // characters outside base64 are skipped
-        {R"({"prop":{"full":3}})", "ChAGAAA=\n"},
-        {R"({"prop":{"full":"FULL_OUTPUT","grp":99}})", "ChAGMMYBAAA=\n"},
-        {"", "CgAA\n"},  // no record and two records reset
-        {"\n\n\n", "CgAA\n"},
-        {"ChAGAAA=\nChAGAAA=\n", "CgAA\n"},
-        {"{}\n{\"prop\":{\"full\":3}}", "CgAA\n"},
-    };
-    for (const auto& row : rows) {
-        EchoData echo(EchoData::ESK, everything.handle);
-        echo.insertXMLData(R"({"prop":{"load":1}})");
-        echo.insertXMLData(row.text);
-        EXPECT_EQ(echo.getXMLData(), row.saved) << row.text;
-    }
-}
-
-TEST(SettingsString, ThatCannotBeReadThrowsAndChangesNothing) {
-    const struct {
-        const char* text;
-        const char* what;
-    } rows[] = {
-        {"ChAG", "Read out of bounds: 1 bytes requested, offset: 3, length: 3"},
-        {"*", "Read out of bounds: 1 bytes requested, offset: 0, length: 0"},
-        {R"( {"prop":{"full":3}})", nullptr},  // a blank first: base64, and not a record
-        {R"({"prop":)", "JSON parser error: Invalid value. at offset 8"},
-        {"{\"a\":1,}", "JSON parser error: Missing a name for object member. at offset 7"},
-        {"CgAA\n{}\nCh", "Read out of bounds: 1 bytes requested, offset: 0, length: 0"},
-        {"ChAGzQkCAv////8PAAA=", nullptr},  // a count that no input backs
-    };
+TEST(SettingsString, IsReadAsAWholeAndToldOnceOrChangesNothing) {
     const auto table = tiv::echo::data::makeInternalData(EchoData::ESK, everything.handle);
-    table->insertXMLData("ChAGAAA=");
     int told = 0;
     table->model->onChange([&](const auto&) { ++told; });
-    for (const auto& row : rows) {
-        try {
-            table->insertXMLData(row.text);
-            ADD_FAILURE() << row.text << " was read";
-        } catch (const bond::Exception& problem) {
-            EXPECT_STREQ(problem.what(), row.what ? row.what : problem.what()) << row.text;
-        }
-        EXPECT_EQ(table->getXMLData(), "ChAGAAA=\n") << row.text;
+    for (const QStringList& row : test::table("settings_strings.tsv")) {
+        SCOPED_TRACE(row[0].toStdString());
+        table->insertXMLData(R"({"prop":{"load":1}})");
+        const QString before = table->getXMLData(), text = QString(row[0]).replace("\\n", "\n");
+        told = 0;
+        const std::string failure = failureOf<bond::Exception>([&] { table->insertXMLData(text); });
+        const QString saved = table->getXMLData();
+        EXPECT_EQ(failure.empty() ? saved : QString::fromStdString(failure) + '\n', row[1] + '\n');
+        EXPECT_EQ(saved == before, !failure.empty());
+        EXPECT_EQ(told, failure.empty() ? 1 : 0);
     }
-    EXPECT_EQ(told, 0);
-    table->insertXMLData("CgAA");
-    EXPECT_EQ(told, 1);
-}
-
-TEST(SettingsString, WaitsForAnOpenTransaction) {
-    const auto table = tiv::echo::data::makeInternalData(EchoData::KST, everything.handle);
     const tiv::container::model::Transaction open(*table->model);
-    EXPECT_THROW(table->insertXMLData("CgAA"), std::runtime_error);
+    EXPECT_THAT(
+        failureOf([&] { table->insertXMLData("*"); }), testing::StartsWith("Transaction in progress"));
 }
 
-TEST(Levels, OutsideTheKnownRangeSurviveAndAreReportedInsteadOfWritten) {
-    EchoData echo(EchoData::ESK_EIGE, everything.handle);
-    const QString text = R"({"prop":{"full":-1,"eige":2147483647,"grp":4}})";
-    echo.insertXMLData(text);
-    EchoData copy(EchoData::ESK_EIGE, everything.handle);
-    copy.insertXMLData(echo.getXMLData());
-    EXPECT_EQ(copy.getXMLData(), echo.getXMLData());
-    EXPECT_EQ(copy.getTELINP(false, false, 0), Lines{"ECHO OPT GRUP WERT EXTR $ Group parameters"});
-    EXPECT_EQ(takeReports(), Reports(2, "0 at echo/src/utils:48"));
+// The language of the application during a test.
+class German : public testing::Test {
+ protected:
+    German() { speak(QLocale(QLocale::German, QLocale::Germany)); }
+    ~German() override { speak(QLocale::c()); }
+    static void speak(const QLocale& locale) {
+        QLocale::setDefault(locale);
+        QEvent change(QEvent::LocaleChange);
+        QCoreApplication::sendEvent(QCoreApplication::instance(), &change);
+    }
+};
+
+TEST_F(German, TranslatesEveryLabelCommentAndLevel) {
+    QStringList sources{"Default output", "No output", "Normal output", "Full output", "Extensive output",
+        "no output of text lists", "extensive output of text lists"};
+    for (const ExpectedOption& o : expectedOptions()) sources << o.label << o.comment;
+    for (const QString& source : sources)
+        EXPECT_NE(EchoData::tr(source.toUtf8().constData()), source) << source.toStdString();
+    EXPECT_EQ(EchoData::tr("no such text"), "no such text");
+}
+
+TEST_F(German, WritesTheCommentInTheApplicationsLanguageAndTheKeywordsInTheAskedOne) {
+    EchoData echo(EchoData::ESK, everything.handle);
+    echo.insertXMLData(R"({"prop":{"esk_reac":3}})");
+    EXPECT_EQ(echo.getTELINP(false, false, 1), Lines{"ECHO OPT REAC VAL FULL $ Auflagerreaktionen"});
+    EXPECT_EQ(echo.getTELINP(true, true, 2), Lines{"ECHO FULL FULL $ erweiterte Ausgabe von Textlisten"});
+    speak(QLocale::c());
+    EXPECT_EQ(echo.getTELINP(false, false, 0), Lines{"ECHO OPT REAK WERT VOLL $ Support reactions"});
+    EXPECT_EQ(echo.getTELINP(true, true, 0), Lines{"ECHO VOLL VOLL $ extensive output of text lists"});
+    EXPECT_EQ(echo.getTELINP(true, false, 0), Lines{"ECHO VOLL NEIN $ no output of text lists"});
 }
 
 }  // namespace

@@ -1,24 +1,16 @@
 #include "echo/expected_options.h"
 
+#include "support/table.h"
 #include "tiv/dbo/dbo.h"
-
-#include <QFile>
-
-#include <stdexcept>
 
 namespace test {
 
 const std::vector<ExpectedOption>& expectedOptions() {
     static const std::vector<ExpectedOption> all = [] {
-        QFile file(QStringLiteral(TIV_TEST_DATA "/programs.tsv"));
-        if (!file.open(QIODevice::ReadOnly)) throw std::runtime_error("no programs.tsv");
         std::vector<ExpectedOption> rows;
-        for (const QString& line : QString::fromUtf8(file.readAll()).split('\n', Qt::SkipEmptyParts)) {
-            if (line.startsWith('#')) continue;
-            const QStringList c = line.split('\t');
+        for (const QStringList& c : table("programs.tsv"))
             rows.push_back(
                 {c[0].toInt(), c[1], c[2], c[3].toInt(), c[4], c[5], c[6], c[7], c[8], c[9], c[10]});
-        }
         return rows;
     }();
     return all;
@@ -39,11 +31,8 @@ QString jsonSettings(const std::vector<ExpectedOption>& options, const std::vect
 }
 
 Project::Project(unsigned kinds) : handle(tiv::dbo::createProject(":memory:")), kinds_(kinds) {
-    using tiv::dbo::ElementKind;
-    constexpr ElementKind all[] = {ElementKind::Quads, ElementKind::Brics, ElementKind::Beams,
-        ElementKind::Cables, ElementKind::Springs};
-    for (unsigned bit = 0; bit < 5; ++bit)
-        if (kinds >> bit & 1) tiv::dbo::addElements(handle, all[bit], 1);
+    for (int kind = 0; kind < 5; ++kind)
+        if (kinds >> kind & 1) tiv::dbo::addElements(handle, tiv::dbo::ElementKind(kind), 1);
 }
 
 Project::~Project() {
@@ -52,8 +41,8 @@ Project::~Project() {
 
 bool Project::has(const QString& needs) const {
     const QStringList names{"quads", "brics", "beams", "cables", "springs"};
-    const int bit = static_cast<int>(names.indexOf(needs));
-    return bit < 0 || (kinds_ >> bit & 1);
+    const auto kind = names.indexOf(needs);
+    return kind < 0 || (kinds_ >> kind & 1);
 }
 
 }  // namespace test

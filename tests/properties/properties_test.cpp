@@ -1,201 +1,132 @@
 // From a described record to property definitions, and from those to the record's values.
 #include "properties/qt/inc/nextgen/from_bond.h"
+#include "support/every_type.h"
+#include "support/failure.h"
 
 #include <gtest/gtest.h>
 
 #include <limits>
-#include <stdexcept>
-
-namespace sample {
-
-enum Colour : std::int32_t { Red = 3, Blue = -1 };
-constexpr bond::Enumerator colours[] = {{"Red", Red}, {"Blue", Blue}};
-constexpr bond::EnumSchema colourSchema{"sample.Colour", colours};
-constexpr const bond::EnumSchema& enumSchema(const Colour*) {
-    return colourSchema;
-}
-
-struct Inner {
-    Colour colour = Blue;
-    double width = 1.5;
-    std::uint64_t big = 7;
-};
-constexpr auto describe(const Inner*) {
-    return bond::record<Inner>("sample.Inner",
-        bond::field(
-            "colour", &Inner::colour, {{"DisplayName", "Colour"}, {"Category", ""}, {"Editor", "swatch"}}),
-        bond::field("width", &Inner::width,
-            {{"DisplayName", "Width"}, {"Precision", "2"}, {"ColumnWidth", "12"},
-                {"PropertyWeight", "-2147483648"}}),
-        bond::field("big", &Inner::big, {{"DisplayName", "Big"}, {"Precision", "many"}}));
-}
-
-struct Outer {
-    bool on = true;
-    std::string name = "beam";
-    std::int8_t small = 0;
-    float hidden = 0;
-    Inner inner;
-    Colour colour = Red;
-};
-constexpr auto describe(const Outer*) {
-    return bond::record<Outer>("sample.Outer",
-        bond::field("on", &Outer::on, {{"DisplayName", "On"}, {"Tooltip", "Whether it is on"}}),
-        bond::field("name", &Outer::name, {{"DisplayName", "Name"}, {"PropertyWeight", "+7"}}),
-        bond::field("small", &Outer::small, {{"DisplayName", "Small"}}),
-        bond::field("hidden", &Outer::hidden, {{"Category", "no label, no property"}}),
-        bond::field("inner", &Outer::inner, {{"DisplayName", "a struct is entered"}}),
-        bond::field("colour", &Outer::colour, {{"DisplayName", "Colour"}}));
-}
-
-struct TooHeavy {
-    bool on = false;
-};
-constexpr auto describe(const TooHeavy*) {
-    return bond::record<TooHeavy>("sample.TooHeavy",
-        bond::field("on", &TooHeavy::on, {{"DisplayName", "On"}, {"PropertyWeight", "2147483648"}}));
-}
-
-}  // namespace sample
 
 namespace {
 
 using namespace tiv::properties;
+using test::failureOf;
 using tiv::container::model::Key;
 using tiv::container::model::Model;
 using tiv::container::model::Transaction;
 
-class OuterRecord : public testing::Test {
+class EveryProperty : public testing::Test {
  protected:
-    OuterRecord() {
-        fromBond(recordAccess<sample::Outer>(), properties);
+    EveryProperty() {
+        fromBond(recordAccess<test::EveryType>(), properties);
         Transaction transaction(model);
-        recordAccess<sample::Outer>().insertDefault(transaction, key);
+        recordAccess<test::EveryType>().insertDefault(transaction, key);
         transaction.end();
-    }
-    std::shared_ptr<const Property> find(const std::string& name) const {
-        for (const auto& p : properties.list)
-            if (p->key == name) return p;
-        throw std::logic_error("no property " + name);
-    }
-    const Property& property(const std::string& name) const { return *find(name); }
-    void set(const std::string& name, const QVariant& value) {
-        // With another field first: all or nothing.
-        const PropertyValue changes[] = {{find("name"), "other"}, {find(name), value}};
-        setValues(changes, model, key);
     }
 
     Properties properties;
     Model model;
-    const Key key{0};
+    const Key key = 0;
 };
 
-TEST_F(OuterRecord, GivesAPropertyToEveryLabelledFieldInOrder) {
+TEST_F(EveryProperty, GivesAPropertyToEveryLabelledFieldInOrder) {
     std::string text;
-    for (const auto& p : properties.list)
-        text += p->key + '|' + p->displayName + '|' + p->category + '|' + (p->tooltip ? p->tooltip : "-") +
-                '|' + (p->columnWidth ? p->columnWidth : "-") + '|' + std::to_string(p->weight) + '\n';
-    EXPECT_EQ(text,
-        "on|On|General|Whether it is on|-|0\n"
-        "name|Name|General|-|-|7\n"
-        "small|Small|General|-|-|0\n"
-        "inner.colour|Colour||-|-|0\n"
-        "inner.width|Width|General|-|12|-2147483648\n"
-        "inner.big|Big|General|-|-|0\n"
-        "colour|Colour|General|-|-|0\n");
-}
-
-TEST_F(OuterRecord, ConfiguresEditorAndValidatorByPaths) {
-    const Configuration& swatch = property("inner.colour").configuration;
-    EXPECT_EQ(*swatch.get<QString>("editor.kind"), "swatch");
-    EXPECT_EQ(*swatch.get<QString>("validator.kind"), "named_value_list");
-    EXPECT_EQ(*swatch.branch("editor").branch("validator").get<QString>("kind"), "named_value_list");
-    EXPECT_EQ(*property("colour").configuration.get<QString>("editor.kind"), "named_value_list");
-    for (const char* path : {"editor.entries", "validator.entries"}) {
-        const auto& entries = **swatch.get<NamedValues>(path);
-        ASSERT_EQ(entries.size(), 2u);
-        EXPECT_EQ(entries[0].text, "Red");
-        EXPECT_EQ(entries[1].value, -1);
+    for (const auto& p : properties.list) {
+        for (const char* part : {p->key.c_str(), p->displayName, p->category, p->tooltip, p->columnWidth})
+            text += std::string(part ? part : "-") + '|';
+        text += std::to_string(p->weight);
+        for (const char* path : {"editor.kind", "validator.kind", "editor.validator.kind"})
+            if (const auto* kind = p->configuration.get<QString>(path)) text += '|' + kind->toStdString();
+        for (const char* path : {"validator.precision", "editor.validator.precision"})
+            if (const auto* digits = p->configuration.get<int>(path)) text += '|' + std::to_string(*digits);
+        text += '\n';
     }
-    EXPECT_TRUE((*swatch.get<IsEqual>("validator.is_equal"))(3, 3LL));
-    EXPECT_FALSE((*swatch.get<IsEqual>("editor.is_equal"))(3, -1));
-
-    EXPECT_EQ(*property("inner.width").configuration.get<int>("validator.precision"), 2);
-    EXPECT_EQ(*property("inner.width").configuration.get<int>("editor.validator.precision"), 2);
-    EXPECT_EQ(property("inner.big").configuration.get<int>("validator.precision"), nullptr);
-    EXPECT_EQ(property("on").configuration.get<QString>("editor.kind"), nullptr);
+    EXPECT_EQ(text,
+        "yes|Yes|General|Whether it is on|-|0\n"
+        "i8|Small|General|-|-|7\n"
+        "u64|Big|General|-|-|0\n"
+        "d|Width|General|-|12|-2147483648|2|2\n"
+        "text|Name|General|-|-|0\n"
+        "level|Level||-|-|0|swatch|named_value_list|named_value_list\n"
+        "data.prop.cs|Construction Stages||-|-|0|named_value_list|named_value_list|named_value_list\n"
+        "data.prop.grp|Groups||-|-|0|named_value_list|named_value_list|named_value_list\n"
+        "data.prop.lc|Loadcases||-|-|0|named_value_list|named_value_list|named_value_list\n");
 }
 
-TEST_F(OuterRecord, KeepsAValueThatFitsAndRefusesOneThatDoesNot) {
+TEST_F(EveryProperty, NamesTheValuesOfAnEnumerationToEditorAndValidator) {
+    for (const char* name : {"editor", "validator"}) {
+        const Branch branch = properties.list[5]->configuration.branch(name);
+        const auto& entries = **branch.get<NamedValues>("entries");
+        ASSERT_EQ(entries.size(), 9u);
+        EXPECT_EQ(entries[3].text, "FULL_OUTPUT");
+        EXPECT_EQ(entries[8].value, 8);
+        const IsEqual isEqual = *branch.get<IsEqual>("is_equal");
+        EXPECT_TRUE(isEqual(3, 3LL) && !isEqual(3, -1));
+    }
+}
+
+TEST_F(EveryProperty, KeepsAValueThatFitsAndRefusesOneThatDoesNot) {
     const struct {
-        const char* key;
+        std::size_t place;
         QVariant value;
         QVariant stored;  // invalid: refused
     } rows[] = {
-        {"on", false, false},
-        {"on", 2, {}},
-        {"name", QString::fromUtf8("Träger"), QString::fromUtf8("Träger")},
-        {"small", "-128", -128},
-        {"small", 128, {}},
-        {"small", 1.5, {}},
-        {"small", "three", {}},
-        {"inner.width", "2.25", 2.25},
-        {"inner.width", "wide", {}},
-        {"inner.width", std::numeric_limits<double>::infinity(), {}},
-        {"inner.big", std::numeric_limits<qulonglong>::max(), std::numeric_limits<qulonglong>::max()},
-        {"inner.big", -1, {}},
-        {"colour", 99, 99},  // any 32-bit number
-        {"colour", 1LL << 32, {}},
+        {0, false, false},
+        {0, 2, {}},
+        {1, "-128", -128},
+        {1, 128, {}},
+        {1, 1.5, {}},
+        {1, "three", {}},
+        {2, std::numeric_limits<qulonglong>::max(), std::numeric_limits<qulonglong>::max()},
+        {2, -1, {}},
+        {3, "2.25", 2.25},
+        {3, "wide", {}},
+        {3, std::numeric_limits<double>::quiet_NaN(), {}},
+        {4, QString::fromUtf8("Träger"), QString::fromUtf8("Träger")},
+        {6, 99, 99},  // any 32-bit number
+        {6, 1LL << 32, {}},
     };
+    const auto& other = properties.list[7];
     for (const auto& row : rows) {
-        const Property& edited = property(row.key);
-        const QVariant before = value(edited, model, key);
-        EXPECT_EQ(before, defaultValue(edited));
-        try {
-            set(row.key, row.value);
-            EXPECT_EQ(value(edited, model, key), row.stored) << row.key;
-            set(row.key, before);
-            set("name", "beam");
-        } catch (const std::runtime_error& problem) {
-            EXPECT_STREQ(problem.what(), "Conversion failed.");
-            EXPECT_FALSE(row.stored.isValid()) << row.key;
-            EXPECT_EQ(value(edited, model, key), before);
-            EXPECT_EQ(value(property("name"), model, key), "beam");
-        }
+        const auto& edited = properties.list[row.place];
+        const QVariant before = value(*edited, model, key);
+        EXPECT_EQ(before, defaultValue(*edited));
+        // With another field first: all or nothing.
+        const PropertyValue changes[] = {{other, 5}, {edited, row.value}};
+        const PropertyValue back[] = {{other, 0}, {edited, before}};
+        const bool fits = row.stored.isValid();
+        EXPECT_EQ(failureOf([&] { setValues(changes, model, key); }), fits ? "" : "Conversion failed.");
+        EXPECT_EQ(value(*edited, model, key).toString(), (fits ? row.stored : before).toString());
+        EXPECT_EQ(model.read<test::EveryType>(key).data.prop.grp, fits ? 5 : 0) << &row - rows;
+        setValues(back, model, key);
     }
 }
 
 TEST(FromBond, RefusesAWeightThatIsNoWhole32BitNumber) {
-    Properties properties;
-    EXPECT_THROW(fromBond(recordAccess<sample::TooHeavy>(), properties), std::bad_cast);
-    EXPECT_TRUE(properties.list.empty());
+    for (const char* weight : {"2147483648", "1.5", "heavy", ""}) {
+        const bond::Attribute attributes[] = {{"DisplayName", "On"}, {"PropertyWeight", weight}};
+        const bond::Row rows[] = {{"on", bond::Type::Bool, 0, 0, attributes, nullptr, nullptr}};
+        const bond::Struct schema{"sample.Weight", rows, nullptr};
+        Properties properties;
+        EXPECT_THROW(fromBond({schema, {}, {}, {}}, properties), std::bad_cast) << weight;
+        EXPECT_TRUE(properties.list.empty());
+    }
 }
 
-TEST(Configuration, RefusesPathsWithEmptyNames) {
+TEST(Configuration, IsATreeWhosePathsHaveNoEmptyNames) {
     Configuration configuration;
     for (const char* path : {"", ".", "a.", ".a", "a..b"})
         EXPECT_THROW(configuration.set(path, 1), std::invalid_argument);
-    configuration.set("a.b", 1);
-    configuration.set("a.b", 2);
-    EXPECT_EQ(*configuration.get<int>("a.b"), 2);
-    EXPECT_EQ(configuration.get<QString>("a.b"), nullptr);
-    EXPECT_EQ(configuration.get<int>("a"), nullptr);
+    configuration.set("a.b.c", 1);
+    EXPECT_EQ(*configuration.branch("a").branch("b").get<int>("c"), 1);
 }
 
-TEST(Xlator, AsksItsLookupWithTheBoundStructsKeys) {
-    std::string asked;
-    tiv::translation::Xlator xlator([&](const std::string& key, const char* text) {
-        asked = key;
-        return QString("<%1>").arg(text);
-    });
+TEST(Xlator, AsksItsLookupWithTheBoundStructsKeysAndGeneratesALocaleOnce) {
+    tiv::translation::Xlator xlator(
+        [](const std::string& key, const char* text) { return QString("%1=%2").arg(key.c_str(), text); });
     EXPECT_EQ(xlator.text("prop.full", "Full"), "Full");
-    configure_xlator(xlator, "sample.Outer");
-    EXPECT_EQ(xlator.text("on.tooltip", "Full"), "<Full>");
-    EXPECT_EQ(asked, "sample.Outer:on.tooltip");
-}
-
-TEST(Xlator, GeneratesALocaleOnceAndWithUtf8) {
-    tiv::translation::Xlator xlator({});
+    configure_xlator(xlator, "test.EveryType");
+    EXPECT_EQ(xlator.text("on.tooltip", "Full"), "test.EveryType:on.tooltip=Full");
     const std::locale& german = xlator.locale("de_DE");
     EXPECT_EQ(&german, &xlator.locale("de_DE"));
     EXPECT_EQ(&german, &xlator.locale("de_DE.ISO8859-1"));

@@ -5,6 +5,7 @@
 #include "properties/qt/inc/nextgen/from_bond.h"
 #include "tiv/smartassert/smart_assert.h"
 
+#include <map>
 #include <string>
 
 namespace tiv::echo::data {
@@ -16,11 +17,15 @@ const Variant* variantFor(const Program& program, EchoData::ProgrammTypes type) 
     return program.otherTypes == OtherTypes::Refused ? nullptr : program.variants.data();
 }
 
-// Both keywords of an option, "REAC, REAK", or the one that it has in both languages.
-QString keywords(int option) {
+// Both keywords of an option, "REAC, REAK", or the one that it has in both languages. One text for all
+// tables, which share it.
+const QString& keywords(int option) {
+    static std::map<int, QString> known;
+    QString& both = known[option];
+    if (!both.isNull()) return both;
     const QString english = optionText(option, 1).keyword;
     const QString german = optionText(option, 0).keyword;
-    return english == german ? english : english + QStringLiteral(", ") + german;
+    return both = english == german ? english : english + QStringLiteral(", ") + german;
 }
 
 }  // namespace

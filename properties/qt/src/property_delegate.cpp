@@ -8,12 +8,19 @@
 #include <QMetaProperty>
 #include <QPainter>
 #include <QPainterPath>
+#include <QTextOption>
 #include <QTimer>
 
 #include <algorithm>
+#include <utility>
 
 namespace tiv::properties {
 namespace {
+
+QColor textColour(const QStyleOptionViewItem& cell) {
+    const bool selected = cell.state & QStyle::State_Selected;
+    return cell.palette.color(selected ? QPalette::HighlightedText : QPalette::Text);
+}
 
 // An arrow that turns back, in the text's colour: the sign of a changed value, and its reset button.
 void paintResetSign(QPainter* painter, const QRectF& cell, const QColor& colour) {
@@ -78,15 +85,40 @@ void PropertyDelegate::setModelData(
 
 void PropertyDelegate::paint(
     QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const {
-    QStyledItemDelegate::paint(painter, option, index);
+    if (!view_->paints(option.rect)) return;
+    QStyleOptionViewItem cell = option;
+    initStyleOption(&cell, index);
+    const bool inOneLine = view_->widthOf(cell.text) <= cell.rect.width();
+    const QString text = inOneLine ? std::exchange(cell.text, QString()) : QString();
+    view_->style()->drawControl(QStyle::CE_ItemViewItem, &cell, painter, view_);
+    if (!text.isEmpty()) paintLine(painter, cell, text);
     if (index.column() != RecordItemModel::ResetColumn || !index.data(RecordItemModel::ChangedRole).toBool())
         return;
-    const bool selected = option.state & QStyle::State_Selected;
     const bool editable = index.siblingAtColumn(RecordItemModel::ValueColumn).flags() & Qt::ItemIsEditable;
-    paintResetSign(painter,
-        option.rect,
-        option.palette.color(editable ? QPalette::Normal : QPalette::Disabled,
-            selected ? QPalette::HighlightedText : QPalette::Text));
+    if (!editable) cell.palette.setCurrentColorGroup(QPalette::Disabled);
+    paintResetSign(painter, cell.rect, textColour(cell));
+}
+
+// What costs in a cell is to shape its text, which a style does three times over. Here a shape is kept:
+// an inspector has few texts, and most of them in many rows. A style does what has to be wrapped or cut.
+void PropertyDelegate::paintLine(
+    QPainter* painter, const QStyleOptionViewItem& cell, const QString& text) const {
+    QStaticText& shape = shapes_[{text, cell.font.bold()}];
+    if (shape.text().isEmpty()) {
+        shape.setTextFormat(Qt::PlainText);
+        shape.setText(text);
+    }
+    QTextOption option(Qt::AlignLeft);
+    option.setTextDirection(cell.direction);
+    if (shape.textOption().textDirection() != cell.direction) shape.setTextOption(option);
+    shape.prepare(painter->transform(), cell.font);
+    const int margin = view_->style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1;  // as in styles
+    const QRect room = cell.rect.adjusted(margin, 0, -margin, 0);
+    const QRect line =
+        QStyle::alignedRect(cell.direction, cell.displayAlignment, shape.size().toSize(), room);
+    painter->setFont(cell.font);
+    painter->setPen(textColour(cell));
+    painter->drawStaticText(line.topLeft(), shape);
 }
 
 QSize PropertyDelegate::sizeHint(const QStyleOptionViewItem& /*option*/, const QModelIndex& index) const {

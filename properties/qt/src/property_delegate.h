@@ -3,6 +3,9 @@
 
 #include "properties/qt/src/editors.h"
 
+#include <QHash>
+#include <QPair>
+#include <QStaticText>
 #include <QStyledItemDelegate>
 
 namespace tiv::properties {
@@ -30,8 +33,10 @@ class PropertyDelegate : public QStyledItemDelegate {
 
  private:
     void open(NamedValueEditor* list) const;
+    void paintLine(QPainter* painter, const QStyleOptionViewItem& cell, const QString& text) const;
 
     PropertyView* view_;
+    mutable QHash<QPair<QString, bool>, QStaticText> shapes_;  // by text, and whether it is bold
     DefaultEditorFactory factory_;
 };
 

@@ -8,6 +8,7 @@
 #include <QFontMetrics>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QPaintEvent>
 #include <QPainter>
 
 #include <algorithm>
@@ -115,10 +116,15 @@ int PropertyView::heightOf(const QModelIndex& cell) const {
     if (cell.column() == resetColumn) return line;
     const QString text = cell.data().toString();
     const int width = columnWidth(cell.column());
-    if (widthOf(text) <= width) return line;
+    return widthOf(text) <= width ? line : std::max(line, wrappedHeight(text, width));
+}
+
+int PropertyView::wrappedHeight(const QString& text, int width) const {
+    const auto known = wrappedHeights_.constFind({text, width});
+    if (known != wrappedHeights_.constEnd()) return *known;
     const QRect room(0, 0, width - margin(), 10000);
     const int wrapped = QFontMetrics(boldFont()).boundingRect(room, Qt::TextWordWrap, text).height();
-    return std::max(line, wrapped + fontMetrics().height() / 2);
+    return *wrappedHeights_.insert({text, width}, wrapped + fontMetrics().height() / 2);
 }
 
 void PropertyView::measureAgain() {
@@ -132,6 +138,7 @@ void PropertyView::measureAgain() {
 void PropertyView::fitColumns() {
     if (!isVisible() || !model()) return;
     if (labelWidth_ < 0) measure();
+    wrappedHeights_.clear();
     const int reset = fontMetrics().height() * 3 / 2;
     const int width = viewport()->width() - reset;
     const int left = width - valueWidth_;
@@ -197,6 +204,7 @@ void PropertyView::resizeEvent(QResizeEvent* event) {
 void PropertyView::showEvent(QShowEvent* event) {
     QTreeView::showEvent(event);
     fitColumns();
+    executeDelayedItemsLayout();  // left to the first paint event, it would ask for a second one
 }
 
 void PropertyView::changeEvent(QEvent* event) {
@@ -205,6 +213,7 @@ void PropertyView::changeEvent(QEvent* event) {
 }
 
 void PropertyView::paintEvent(QPaintEvent* event) {
+    painted_ = event->region();
     QTreeView::paintEvent(event);
     if (placeholder_.isEmpty() || hasVisibleRows()) return;
     QPainter painter(viewport());

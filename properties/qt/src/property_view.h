@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QHash>
+#include <QRegion>
 #include <QString>
 #include <QTreeView>
 
@@ -20,6 +21,10 @@ class PropertyView : public QTreeView {
     bool hasVisibleRows() const;
     // What a cell needs in its column, in pixels.
     int heightOf(const QModelIndex& cell) const;
+    // Whether the cell is being painted: a view asks its delegate for the whole row of any cell.
+    bool paints(const QRect& cell) const { return painted_.intersects(cell); }
+    // What a text needs in any column, in pixels.
+    int widthOf(const QString& text) const;
     // Opens the editor of the row.
     void editRow(const QModelIndex& index);
 
@@ -38,14 +43,16 @@ class PropertyView : public QTreeView {
 
  private:
     void measure();
-    int widthOf(const QString& text) const;
-    int wordWidth() const;
     int margin() const;
+    int wordWidth() const;
+    int wrappedHeight(const QString& text, int width) const;
     QFont boldFont() const;
     void fitColumns();
 
     QString placeholder_;
+    QRegion painted_;
     mutable QHash<QString, int> widths_;
+    mutable QHash<QPair<QString, int>, int> wrappedHeights_;  // by text and width
     QString searched_;
     qint64 searchedAt_ = 0;
     int labelWidth_ = -1;  // what the widest label needs; -1: not measured

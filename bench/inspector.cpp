@@ -1,0 +1,91 @@
+#include "bench/rooms.h"
+#include "bench/sample.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QTest>
+#include <QTreeView>
+
+#include <memory>
+
+namespace bench {
+namespace {
+
+using Widget = std::unique_ptr<QWidget>;
+
+struct Table {
+    Table() : echo(plax2, project()) { speak("C"); }
+    QWidget* create() { return widgets.emplace_back(echo.createPropertyInspector(nullptr)).get(); }
+    QWidget* show() {
+        QWidget* widget = create();
+        widget->resize(460, 480);
+        widget->show();
+        QCoreApplication::processEvents();
+        return widget;
+    }
+
+    EchoData echo;
+    std::vector<Widget> widgets;
+};
+
+Work creates(int runs) {
+    auto table = std::make_shared<Table>();
+    table->widgets.reserve(static_cast<std::size_t>(runs));
+    return [=] { table->create(); };
+}
+
+Work shows(int /*runs*/) {
+    auto table = std::make_shared<Table>();
+    return [=] {
+        table->widgets.clear();  // or it would be painted again, as the window that is no longer active
+        table->show();
+    };
+}
+
+Work destroys(int runs) {
+    auto table = std::make_shared<Table>();
+    for (int i = 0; i < runs; ++i) table->show();
+    return [=] { table->widgets.pop_back(); };
+}
+
+// Two settings in turn, each painted.
+auto changes(const char* one, const char* other) {
+    return [=](int) -> Work {
+        auto table = std::make_shared<Table>();
+        table->show();
+        const QString texts[] = {settingsString(plax2, one), settingsString(plax2, other)};
+        return [=, turn = 0]() mutable {
+            table->echo.insertXMLData(texts[++turn % 2]);
+            QCoreApplication::processEvents();
+        };
+    };
+}
+
+Work filters(int /*runs*/) {
+    auto table = std::make_shared<Table>();
+    QWidget* widget = table->show();
+    QApplication::setActiveWindow(widget);
+    QTest::keyClick(widget->findChild<QTreeView*>(), Qt::Key_F, Qt::ControlModifier);
+    auto* query = widget->findChild<QLineEdit*>();
+    return [table, query, turn = 0]() mutable {
+        query->setText(++turn % 2 ? "reac" : "s");
+        QCoreApplication::processEvents();
+    };
+}
+
+}  // namespace
+
+std::vector<Operation> inspectorOperations() {
+    return {
+        {"inspector, create", creates, 10, 30},
+        {"inspector, create to first paint", shows, 5, 15},
+        {"inspector, one change painted", changes(R"({"prop":{"node":2}})", R"({"prop":{"node":3}})")},
+        {"inspector, one change that marks its row", changes("{}", R"({"prop":{"node":3}})")},
+        {"inspector, 15 changes painted", changes(allOptions, allOtherwise)},
+        {"inspector, filter", filters},
+        {"inspector, destroy", destroys, 5, 15},
+    };
+}
+
+}  // namespace bench

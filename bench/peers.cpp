@@ -1,0 +1,50 @@
+// The same work as an application does it that has no library for it.
+#include "bench/peer_view.h"
+#include "bench/rooms.h"
+
+#include <QCoreApplication>
+#include <QStandardItemModel>
+#include <QTreeView>
+
+#include <memory>
+
+namespace bench {
+namespace {
+
+// A line as an application puts it together: its comment translated, three texts into a pattern.
+Work qtLines(int /*runs*/) {
+    return [] {
+        std::vector<QString> lines;
+        for (int i = 0; i < 15; ++i)
+            lines.push_back(QStringLiteral("ECHO OPT %1 VAL %2 $ %3")
+                                .arg(QLatin1String("REAC"))
+                                .arg(QLatin1String("FULL"))
+                                .arg(QCoreApplication::translate("EchoData", "Support reactions")));
+    };
+}
+
+struct BareView {
+    BareView() : model(15, 2) {
+        for (int row = 0; row < 15; ++row) {
+            model.setItem(row, 0, new QStandardItem(QStringLiteral("Support reactions %1").arg(row)));
+            model.setItem(row, 1, new QStandardItem(QStringLiteral("Default output")));
+        }
+        view.setModel(&model);
+    }
+    void change(int turn) {
+        model.item(1, 1)->setText(turn % 2 ? QStringLiteral("Full output") : QStringLiteral("No output"));
+    }
+
+    QStandardItemModel model;
+    QTreeView view;
+};
+
+}  // namespace
+
+std::vector<Operation> peerOperations() {
+    auto result = viewOperations<BareView>("peer: bare QTreeView");
+    result.push_back({"peer: 15 x (translate, three arg)", qtLines});
+    return result;
+}
+
+}  // namespace bench

@@ -1,0 +1,95 @@
+#include "bench/rooms.h"
+#include "bench/sample.h"
+#include "bond/exceptions.h"
+
+#include <memory>
+#include <stdexcept>
+
+namespace bench {
+namespace {
+
+// The work on one table of plax2 with these settings.
+template <class Call>
+auto on(const char* settings, Call call) {
+    return [=](int) -> Work {
+        auto echo = std::make_shared<EchoData>(plax2, project());
+        echo->insertXMLData(settings);
+        return [=] { call(*echo); };
+    };
+}
+
+auto inserts(const QString& text) {
+    return on("CgAA", [text](EchoData& echo) { echo.insertXMLData(text); });
+}
+
+auto writes(const char* settings, bool defaultsOnly, const char* language) {
+    const auto lines = on(settings, [=](EchoData& echo) { echo.getTELINP(defaultsOnly, false, 1); });
+    return [=](int runs) {
+        speak(language);
+        return lines(runs);
+    };
+}
+
+void insertBroken(EchoData& echo) {
+    try {
+        echo.insertXMLData(QStringLiteral("ChACUAiQ"));
+    } catch (const bond::Exception&) {
+        return;
+    }
+    throw std::logic_error("settings without an end were read");
+}
+
+// Tables of every type that all stay: made, loaded, saved, and written as lines.
+Work wholeLives(int /*runs*/) {
+    std::vector<QString> settings;
+    for (unsigned type = 0; type < 14; ++type)
+        settings.push_back(
+            settingsString(static_cast<EchoData::ProgrammTypes>(type), R"({"prop":{"0":1,"1":2}})"));
+    auto alive = std::make_shared<std::vector<std::unique_ptr<EchoData>>>();
+    return [=] {
+        const std::size_t type = alive->size() % settings.size();
+        EchoData& echo = *alive->emplace_back(
+            std::make_unique<EchoData>(static_cast<EchoData::ProgrammTypes>(type), project()));
+        echo.insertXMLData(settings[type]);
+        if (echo.getXMLData() != settings[type]) throw std::logic_error("other settings came back");
+        echo.getTELINP(false, false, 1);
+    };
+}
+
+}  // namespace
+
+std::vector<Operation> tableOperations() {
+    std::vector<Operation> result{
+        {"getXMLData, 8 options set", on(eightOptions, [](EchoData& echo) { echo.getXMLData(); })},
+        {"insertXMLData, binary", inserts(settingsString(plax2, eightOptions))},
+        {"insertXMLData, JSON", inserts(eightOptions)},
+        {"insertXMLData, refused", on("CgAA", insertBroken)},
+        {"getTELINP, 15 lines", writes(allOptions, false, "C")},
+        {"getTELINP, 15 lines, German catalogue", writes(allOptions, false, "de")},
+        {"getTELINP, no line", writes("CgAA", false, "C")},
+        {"getTELINP, all options at once", writes(allOptions, true, "C")},
+    };
+    const char* const programs[] = {"qsx.bruc",
+        "qsx.riss",
+        "qsx.elpl",
+        "esk",
+        "esk.eige",
+        "dimvel.bruc",
+        "dimvel.riss",
+        "kst",
+        "vibr",
+        "mexora",
+        "plax2",
+        "tiviload",
+        "kurta",
+        "rova"};
+    for (unsigned type = 0; type < std::size(programs); ++type)
+        result.push_back({std::string("EchoData, ") + programs[type], [=](int) -> Work {
+                              return [=] { EchoData(static_cast<EchoData::ProgrammTypes>(type), project()); };
+                          }});
+    for (const int tables : {100, 1000, 10000})
+        result.push_back({"one of " + std::to_string(tables) + " tables", wholeLives, 0, tables});
+    return result;
+}
+
+}  // namespace bench

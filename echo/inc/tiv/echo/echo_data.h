@@ -1,13 +1,14 @@
-// The echo table of one analysis program: which results its report prints, and how much of each.
-// The one exported class of the library tiv_echotable.
-//
-//     tiv::echo::EchoData echo(tiv::echo::EchoData::ESK, database);
-//     echo.insertXMLData(savedSettings);                       // from an earlier getXMLData()
-//     layout->addWidget(echo.createPropertyInspector(this));   // the engineer's edits go into `echo`
-//     savedSettings = echo.getXMLData();
-//     for (const QString& line : echo.getTELINP(false, false, 1)) input << line << '\n';
-//
-// Every call comes from the user-interface thread. A QApplication exists while inspectors do.
+/// \file
+/// The echo table of one analysis program: which results its report prints, and how much of each.
+/// The one exported class of the library tiv_echotable.
+///
+///     tiv::echo::EchoData echo(tiv::echo::EchoData::ESK, database);
+///     echo.insertXMLData(savedSettings);                       // from an earlier getXMLData()
+///     layout->addWidget(echo.createPropertyInspector(this));   // the engineer's edits go into `echo`
+///     savedSettings = echo.getXMLData();
+///     for (const QString& line : echo.getTELINP(false, false, 1)) input << line << '\n';
+///
+/// Every call comes from the user-interface thread. A QApplication exists while inspectors do.
 #pragma once
 
 #include <QCoreApplication>
@@ -28,65 +29,84 @@
 
 class QWidget;
 
+/// Echo tables.
 namespace tiv::echo {
 
 namespace data {
 class InternalInterface;
 }
 
+/// The options of one task of one analysis program, each with its level. Texts for the engineer are
+/// translated by tr() and trUtf8() in the context "EchoData".
 class TIV_ECHOTABLE_EXPORT EchoData : public QObject {
     // The translation context is "EchoData"; Q_OBJECT would make it "tiv::echo::EchoData".
     Q_DECLARE_TR_FUNCTIONS(EchoData)
 
  public:
-    // One task of one analysis program.
-    enum ProgrammTypes : std::uint32_t {  // sic
-        QSX_BRUC = 0,                     // cross sections
-        QSX_RISS = 1,
-        QSX_ELPL = 2,
-        ESK = 3,          // finite elements, static analysis
-        ESK_EIGE = 4,     // finite elements, eigenvalues
-        DIMVEL_BRUC = 5,  // design of quadrilateral elements
-        DIMVEL_RISS = 6,
-        KST = 7,        // construction stages
-        VIBR = 8,       // earthquake and vibration
-        MEXORA = 9,     // superposition
-        PLAX2 = 10,     // beam statics
-        TIVILOAD = 11,  // loading
-        KURTA = 12,     // has no options
-        ROVA = 13,      // load trains
+    /// One task of one analysis program. (sic: a host's code spells it so.)
+    enum ProgrammTypes : std::uint32_t {
+        QSX_BRUC = 0,     ///< cross sections, ultimate limit state
+        QSX_RISS = 1,     ///< cross sections, crack width
+        QSX_ELPL = 2,     ///< cross sections, elastic-plastic
+        ESK = 3,          ///< finite elements, static analysis
+        ESK_EIGE = 4,     ///< finite elements, eigenvalues
+        DIMVEL_BRUC = 5,  ///< design of quadrilateral elements, ultimate limit state
+        DIMVEL_RISS = 6,  ///< design of quadrilateral elements, serviceability
+        KST = 7,          ///< construction stages
+        VIBR = 8,         ///< earthquake and vibration
+        MEXORA = 9,       ///< superposition
+        PLAX2 = 10,       ///< beam statics
+        TIVILOAD = 11,    ///< loading
+        KURTA = 12,       ///< has no options
+        ROVA = 13,        ///< load trains
     };
 
-    // `database` is the handle of the open project database. It is asked here, and never again, which
-    // kinds of element the project holds. An unknown `type` is reported as a failed assertion and
-    // gives an object without options.
+    /// Every option at its program's default. Asks the database which kinds of element the project
+    /// holds, here and never again: an option that needs quads, beams or springs applies if there are any.
+    /// \param type an unknown one is reported as a failed assertion, `0 && "invalid prog_type"` at
+    ///     echo/src/internal_data:120, and gives an object without options.
+    /// \param database the handle of the open project (tiv/dbo/dbo.h). It may be closed afterwards.
+    /// \throws std::runtime_error "<path>: <reason>" where the project file cannot be read.
     EchoData(ProgrammTypes type, int database);
+
+    /// Inspectors may stay: their rows can still be read, and refuse edits.
     ~EchoData() override;
 
-    // A new widget that shows the options applicable to the project and writes each choice straight
-    // into this object. The caller, or `parent`, owns it. Any number of inspectors may show the same
-    // options. Widget, parent and EchoData may be destroyed in any order. The widget has a signal
-    // settingsChanged(), for a host that shows what follows from the settings:
-    //     connect(inspector, SIGNAL(settingsChanged()), this, SLOT(updatePreview()));
+    /// A new widget that shows the options applicable to the project and writes each choice straight
+    /// into this object. Any number of inspectors may show the same options. Widget, parent and EchoData
+    /// may be destroyed in any order.
+    ///
+    /// The widget has a signal settingsChanged(), sent after each change of the settings, whoever made
+    /// it. Its class is the library's own, so a host connects by name:
+    ///
+    ///     connect(inspector, SIGNAL(settingsChanged()), this, SLOT(updatePreview()));
+    ///
+    /// \param parent null, or the widget that owns the new one.
+    /// \returns a widget that the caller owns unless `parent` does; never null.
     QWidget* createPropertyInspector(QWidget* parent);
 
-    // The input lines of the analysis program, without line ends; none for an option at its program's
-    // default, for one that does not apply to the project, or for a level without a keyword (reported
-    // as a failed assertion).
-    // `defaultsOnly`: instead, the one line that sets all options at once, whatever is stored;
-    // `extensive` then asks for full output, otherwise for none.
-    // `language`: 0 German keywords, else English. The comment after "$" follows the application.
+    /// The input lines of the analysis program: one for each option that applies to the project and is
+    /// not at level 0 ("Default output"). A level without a keyword (below 0, or above 4) gives no line
+    /// and is reported as a failed assertion, `0` at echo/src/utils:48.
+    /// \param defaultsOnly instead, the one line that sets all options at once, whatever is stored.
+    /// \param extensive with `defaultsOnly`: full output; otherwise none.
+    /// \param language of the keywords: 0 German, any other English. The comment after "$" is in the
+    ///     language of the application.
+    /// \returns the lines in the program's order, without line ends; none for a program without options.
     std::vector<QString> getTELINP(bool defaultsOnly, bool extensive, int language);
 
-    // The settings string: one base64 line closed by a line feed, "CgAA\n" with nothing set. Null for
-    // a program without options.
+    /// What a host stores, and hands to insertXMLData() another time. (sic: it is no XML.)
+    /// \returns one base64 line closed by a line feed, "CgAA\n" with every option at its program's
+    ///     default; a null string for a program without options.
     QString getXMLData();
 
-    // Replaces all settings by those of a settings string, or of its JSON form. A text without a
-    // record, or with more than one, resets every option. Ignored for a program without options.
-    // Throws bond::StreamException, bond::CoreException (bond/exceptions.h) when the text cannot be
-    // read, and std::runtime_error while a transaction on the settings is open; the settings are then
-    // unchanged and no inspector was told.
+    /// Replaces all settings. A text without a record, or with more than one, resets every option to its
+    /// program's default. Ignored for a program without options.
+    /// \param text a settings string, or its JSON form; a line feed at its end is not needed.
+    /// \throws bond::StreamException, bond::CoreException (bond/exceptions.h, with their texts) when the
+    ///     text cannot be read, and std::runtime_error "Transaction in progress. Hierarchical transactions
+    ///     not supported (yet). Should we?" (one line) while the settings are being changed. The settings
+    ///     are then as they were, and no inspector was told.
     void insertXMLData(const QString& text);
 
  private:

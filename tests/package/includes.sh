@@ -6,6 +6,7 @@ while read -r room forbidden; do
     grep -rnE --include='*.h' --include='*.cpp' "^ *# *include +[<\"]($forbidden)" "$room"
     [ $? = 1 ] || { echo "$room: must exist, and include nothing that begins with $forbidden" && failed=1; }
 done <<'RULES'
+apps/echohost         apps/echotable/|echo/|properties/|platform/|nextgen/
 echo                  apps/
 properties            apps/|echo/|platform/|tiv/
 properties/container  properties/(nextgen|qt|translation)/|nextgen/|bond/|Q

@@ -103,15 +103,15 @@ void PropertyDelegate::paint(
 // an inspector has few texts, and most of them in many rows. A style does what has to be wrapped or cut.
 void PropertyDelegate::paintLine(
     QPainter* painter, const QStyleOptionViewItem& cell, const QString& text) const {
-    QStaticText& shape = shapes_[{text, cell.font.bold()}];
-    if (shape.text().isEmpty()) {
-        shape.setTextFormat(Qt::PlainText);
-        shape.setText(text);
-    }
+    QStaticText& shape = shapes_[{text, cell.font}];
     QTextOption option(Qt::AlignLeft);
     option.setTextDirection(cell.direction);
-    if (shape.textOption().textDirection() != cell.direction) shape.setTextOption(option);
-    shape.prepare(painter->transform(), cell.font);
+    if (shape.text().isEmpty() || shape.textOption().textDirection() != cell.direction) {
+        shape.setTextFormat(Qt::PlainText);
+        shape.setTextOption(option);
+        shape.setText(text);
+        shape.prepare({}, cell.font);
+    }
     const int margin = view_->style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1;  // as in styles
     const QRect room = cell.rect.adjusted(margin, 0, -margin, 0);
     const QRect line =

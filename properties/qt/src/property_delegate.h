@@ -3,6 +3,7 @@
 
 #include "properties/qt/src/editors.h"
 
+#include <QFont>
 #include <QHash>
 #include <QPair>
 #include <QStaticText>
@@ -36,7 +37,7 @@ class PropertyDelegate : public QStyledItemDelegate {
     void paintLine(QPainter* painter, const QStyleOptionViewItem& cell, const QString& text) const;
 
     PropertyView* view_;
-    mutable QHash<QPair<QString, bool>, QStaticText> shapes_;  // by text, and whether it is bold
+    mutable QHash<QPair<QString, QFont>, QStaticText> shapes_;
     DefaultEditorFactory factory_;
 };
 

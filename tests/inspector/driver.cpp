@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QTest>
+#include <QWheelEvent>
 
 #include <algorithm>
 
@@ -65,6 +66,14 @@ void Driver::key(int key, Qt::KeyboardModifiers modifiers) {
                                                     : QApplication::focusWidget();
     if (auto* open = list()) target = open;
     if (target) QTest::keyClick(target, static_cast<Qt::Key>(key), modifiers);
+    settle();
+}
+
+void Driver::wheel(QWidget* target) {
+    const QPointF at = target->rect().center();
+    QWheelEvent event(
+        at, target->mapToGlobal(at.toPoint()), {}, {0, -120}, Qt::NoButton, {}, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(target, &event);
     settle();
 }
 

@@ -21,6 +21,7 @@ class Driver {
     void click(const QString& label, int column = 1, Qt::KeyboardModifiers modifiers = {});
     void key(int key, Qt::KeyboardModifiers modifiers = {});  // to whatever has the focus
     void type(const QString& text);
+    static void wheel(QWidget* target);  // one turn
     // The open list of levels, or null.
     QAbstractItemView* list() const;
     QStringList offered() const;

@@ -81,19 +81,12 @@ TEST(Inspector, ChangesNothingByWheelOrNavigation) {
     Driver& driver = *host.driver;
     host.window.resize(460, 150);  // some rows are out of sight
     settle();
-    const auto wheel = [](QWidget* target) {
-        const QPointF at = target->rect().center();
-        QWheelEvent event(
-            at, target->mapToGlobal(at.toPoint()), {}, {0, -120}, Qt::NoButton, {}, Qt::NoScrollPhase, false);
-        QApplication::sendEvent(target, &event);
-        settle();
-    };
-    for (int i = 0; i < 3; ++i) wheel(driver.view->viewport());
+    for (int i = 0; i < 3; ++i) driver.wheel(driver.view->viewport());
     EXPECT_GT(driver.view->verticalScrollBar()->value(), 0);
     driver.key(Qt::Key_F2);
     ASSERT_TRUE(driver.list());
-    wheel(driver.list()->viewport());
-    wheel(driver.view->findChild<QWidget*>("qt_scrollarea_viewport"));
+    driver.wheel(driver.list()->viewport());
+    driver.wheel(driver.view->findChild<QWidget*>("qt_scrollarea_viewport"));
     driver.key(Qt::Key_Escape);
     std::mt19937 random(5);
     const Qt::Key keys[] = {Qt::Key_Up, Qt::Key_Down, Qt::Key_Left, Qt::Key_Right, Qt::Key_Home, Qt::Key_End,
@@ -249,21 +242,20 @@ TEST(Inspector, SurvivesEveryOrderOfDestruction) {
         }
 }
 
-// Random clicks, keys, wheel turns and loads: the rows always tell the record.
+// Random clicks, keys, wheel turns, loads and ends of the inspector: the rows always tell the record.
 TEST(Inspector, TellsTheRecordAfterWhateverHappens) {
     const QStringList levels{
         "Default output", "No output", "Normal output", "Full output", "Extensive output"};
     for (const unsigned seed : {1u, 2u, 3u}) {
         std::mt19937 random(seed);
         Host host(EchoData::PLAX2);
-        Driver& driver = *host.driver;
         const auto options = expectedOptions(10);
-        const QString first = host.echo->getXMLData();
         const Qt::Key keys[] = {Qt::Key_Up, Qt::Key_Down, Qt::Key_Return, Qt::Key_Escape, Qt::Key_Delete,
             Qt::Key_Home, Qt::Key_PageDown, Qt::Key_Space, Qt::Key_N, Qt::Key_F};
         for (int step = 0; step < 150; ++step) {
             const QString& label = options[random() % options.size()].label;
-            switch (random() % 8) {
+            Driver& driver = *host.driver;
+            switch (random() % 10) {
                 case 0:
                     driver.click(label, static_cast<int>(random() % 3));
                     break;
@@ -287,6 +279,14 @@ TEST(Inspector, TellsTheRecordAfterWhateverHappens) {
                         host.echo->insertXMLData(jsonSettings(
                             {options[random() % options.size()]}, {static_cast<int>(random() % 5)}));
                     break;
+                case 7:
+                    driver.wheel(driver.list() ? driver.list()->viewport() : driver.view->viewport());
+                    break;
+                case 8:
+                    if (random() % 4 != 0) break;
+                    delete driver.widget;
+                    host.driver = std::make_unique<Driver>(host.inspector());
+                    break;
                 default:
                     driver.pick(levels[static_cast<int>(random() % 5)]);
             }
@@ -297,8 +297,8 @@ TEST(Inspector, TellsTheRecordAfterWhateverHappens) {
             QStringList rows;
             for (int i = 0; i < expected.rowCount(); ++i) rows << expected.index(i, 1).data().toString();
             QStringList shown;
-            for (int i = 0; i < driver.view->model()->rowCount(); ++i)
-                shown << driver.view->model()->index(i, 1).data().toString();
+            const QAbstractItemModel& model = *host.driver->view->model();
+            for (int i = 0; i < model.rowCount(); ++i) shown << model.index(i, 1).data().toString();
             ASSERT_EQ(shown, rows) << "seed " << seed << ", step " << step;
         }
     }

@@ -1,3 +1,4 @@
+#include "apps/echotable/table.h"
 #include "bench/rooms.h"
 #include "bench/sample.h"
 #include "bond/exceptions.h"
@@ -69,22 +70,9 @@ std::vector<Operation> tableOperations() {
         {"getTELINP, no line", writes("CgAA", false, "C")},
         {"getTELINP, all options at once", writes(allOptions, true, "C")},
     };
-    const char* const programs[] = {"qsx.bruc",
-        "qsx.riss",
-        "qsx.elpl",
-        "esk",
-        "esk.eige",
-        "dimvel.bruc",
-        "dimvel.riss",
-        "kst",
-        "vibr",
-        "mexora",
-        "plax2",
-        "tiviload",
-        "kurta",
-        "rova"};
-    for (unsigned type = 0; type < std::size(programs); ++type)
-        result.push_back({std::string("EchoData, ") + programs[type], [=](int) -> Work {
+    const QStringList programs = tiv::tool::programNames();
+    for (int type = 0; type < programs.size(); ++type)
+        result.push_back({"EchoData, " + programs[type].toStdString(), [=](int) -> Work {
                               return [=] { EchoData(static_cast<EchoData::ProgrammTypes>(type), project()); };
                           }});
     for (const int tables : {100, 1000, 10000})

@@ -41,7 +41,7 @@ configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/tiv_echotable-config.cma
     ${PROJECT_BINARY_DIR}/tiv_echotable-config.cmake
     INSTALL_DESTINATION ${TIV_PACKAGE_DIR})
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/tiv_echotable-config-version.cmake
-    COMPATIBILITY SameMinorVersion)
+    COMPATIBILITY SameMajorVersion)
 install(FILES
     ${PROJECT_BINARY_DIR}/tiv_echotable-config.cmake
     ${PROJECT_BINARY_DIR}/tiv_echotable-config-version.cmake

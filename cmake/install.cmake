@@ -6,6 +6,12 @@ include(GNUInstallDirs)
 
 set(TIV_PACKAGE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/tiv_echotable)
 
+# tiv_describe_abi(<source>...): the files that define what a library exports. They carry debug information in
+# every build: from it the test of the binary interface reads the layout of the types.
+function(tiv_describe_abi)
+    set_source_files_properties(${ARGN} PROPERTIES COMPILE_OPTIONS $<$<PLATFORM_ID:Linux>:-g>)
+endfunction()
+
 # tiv_install_library(<target> <name> <include dir>...): a shared library of the package. Consumers link
 # tiv::<name>, here as well as installed, and include below the public include directories.
 function(tiv_install_library target name)

@@ -36,11 +36,16 @@ function(tiv_install_library target name)
         INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 endfunction()
 
-# tiv_install_program(<target>): a program that finds the libraries beside it.
+# tiv_install_program(<target>): a program that finds the libraries beside it, and its manual page.
 function(tiv_install_program target)
     file(RELATIVE_PATH libraries ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_FULL_LIBDIR})
     set_target_properties(${target} PROPERTIES INSTALL_RPATH $ORIGIN/${libraries})
-    install(TARGETS ${target})
+    install(TARGETS ${target} RUNTIME COMPONENT ${target})
+    if(UNIX)
+        configure_file(${PROJECT_SOURCE_DIR}/docs/${target}.1 ${target}.1 @ONLY)
+        install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${target}.1
+            DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT ${target})
+    endif()
 endfunction()
 
 configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/tiv_echotable-config.cmake.in

@@ -4,12 +4,15 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QIcon>
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("echohost"));
     QApplication::setApplicationDisplayName(QApplication::applicationName());  // ends every window title
     QApplication::setApplicationVersion(QStringLiteral(TIV_VERSION));
+    QApplication::setDesktopFileName(QApplication::applicationName());
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/echohost/echohost.svg")));
 
     const QCommandLineOption dark(
         QStringLiteral("dark"), QStringLiteral("Shows the window in dark colours."));

@@ -1,5 +1,6 @@
 # What `cmake --install` puts where, and the package that find_package(tiv_echotable CONFIG) finds:
-# the targets tiv::echotable, tiv::dbo and tiv::smartassert.
+# the targets tiv::echotable, tiv::dbo and tiv::smartassert. The components are library, development, and one of
+# the name of each program.
 include_guard(GLOBAL)
 include(CMakePackageConfigHelpers)
 include(GNUInstallDirs)
@@ -19,7 +20,8 @@ function(tiv_install_library target name)
     foreach(dir IN LISTS ARGN)
         cmake_path(ABSOLUTE_PATH dir)
         target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${dir}>)
-        install(DIRECTORY ${dir}/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} FILES_MATCHING PATTERN *.h)
+        install(DIRECTORY ${dir}/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development
+            FILES_MATCHING PATTERN *.h)
     endforeach()
     set_target_properties(${target} PROPERTIES
         EXPORT_NAME ${name}
@@ -33,6 +35,9 @@ function(tiv_install_library target name)
     endif()
     install(TARGETS ${target}
         EXPORT tiv_echotable-targets
+        ARCHIVE COMPONENT development
+        LIBRARY COMPONENT library NAMELINK_COMPONENT development
+        RUNTIME COMPONENT library
         INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 endfunction()
 
@@ -56,8 +61,9 @@ write_basic_package_version_file(${PROJECT_BINARY_DIR}/tiv_echotable-config-vers
 install(FILES
     ${PROJECT_BINARY_DIR}/tiv_echotable-config.cmake
     ${PROJECT_BINARY_DIR}/tiv_echotable-config-version.cmake
-    DESTINATION ${TIV_PACKAGE_DIR})
-install(EXPORT tiv_echotable-targets NAMESPACE tiv:: DESTINATION ${TIV_PACKAGE_DIR})
+    DESTINATION ${TIV_PACKAGE_DIR} COMPONENT development)
+install(EXPORT tiv_echotable-targets NAMESPACE tiv:: DESTINATION ${TIV_PACKAGE_DIR} COMPONENT development)
 
 # The exceptions that a host catches; complete in their header.
-install(FILES ${PROJECT_SOURCE_DIR}/bond/exceptions.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/bond)
+install(FILES ${PROJECT_SOURCE_DIR}/bond/exceptions.h
+    DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/bond COMPONENT development)

@@ -45,6 +45,10 @@ QString json(const char* members) {
     return QStringLiteral("{\"prop\":{%1}}").arg(members);
 }
 
+TEST(Inspector, IsTestedWithoutADisplay) {
+    EXPECT_EQ(QApplication::platformName(), "offscreen");
+}
+
 TEST(Inspector, ShowsTheApplicableOptionsInOrderWithExactlyTheirLevels) {
     const Project bare(0);
     const Project all(everyKind);

@@ -3,6 +3,7 @@
 #include "support/failure.h"
 #include "support/reports.h"
 
+#include <QFile>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -31,6 +32,7 @@ std::string contentOf(int database) {
 
 class Project : public testing::Test {
  protected:
+    ~Project() override { closeProject(database); }
     std::string file(const char* name) const { return folder.filePath(name).toStdString(); }
     // As another program would; the lock it takes ends with the returned connection.
     std::shared_ptr<sqlite3> execute(const std::string& name, const char* sql) const {
@@ -42,7 +44,7 @@ class Project : public testing::Test {
 
     const QTemporaryDir folder;
     const std::string path = file("Brücke 橋.tiv");
-    const int database = createProject(path);
+    int database = createProject(path);
 };
 
 TEST_F(Project, isCreatedOnlyWhereNoFileIsAndOpenedOnlyFromAProjectFile) {
@@ -67,7 +69,7 @@ TEST_F(Project, isCreatedOnlyWhereNoFileIsAndOpenedOnlyFromAProjectFile) {
         {openProject, file("less"), "no such table: elements", "DROP TABLE elements"},
     };
     for (const auto& row : rows) {
-        if (row.sql) std::filesystem::copy(path, row.path), execute(row.path, row.sql);
+        if (row.sql) QFile::copy(path.c_str(), row.path.c_str()), execute(row.path, row.sql);
         EXPECT_EQ(failureOf([&] { row.call(row.path); }), row.path + ": " + row.reason);
     }
 }
@@ -85,7 +87,7 @@ TEST_F(Project, keepsElementsAndTasksInOrderAndByteForByte) {
     const int again = openProject(path);
     addElements(again, ElementKind::Beams, 1);
     EXPECT_TRUE(hasBeams(database, nullptr)) << "seen by everyone who has the project open";
-    closeProject(database);
+    closeProject(std::exchange(database, again));
     EXPECT_EQ(
         contentOf(again), "+5 -0 +1 +7 +2147483647 [b|4|" + odd + "][a|12|][" + odd + "|-1|" + odd + "]");
     EXPECT_TRUE(removeTask(again, "a"));

@@ -6,11 +6,16 @@
 
 #include <QApplication>
 #include <QCoreApplication>
+#include <QScopeGuard>
 
 #include <algorithm>
 #include <memory>
 #include <string_view>
 #include <vector>
+
+#if defined(Q_OS_WIN)
+#include <windows.h>
+#endif
 
 namespace {
 
@@ -138,9 +143,21 @@ bool lacksDisplay() {
 #endif
 }
 
+// A console of Windows shows bytes in its own code page: until the result is destroyed, in UTF-8.
+auto utf8Console() {
+#if defined(Q_OS_WIN)
+    const UINT before = GetConsoleOutputCP();
+    SetConsoleOutputCP(CP_UTF8);
+    return qScopeGuard([before] { SetConsoleOutputCP(before); });
+#else
+    return nullptr;
+#endif
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
+    [[maybe_unused]] const auto console = utf8Console();
     tiv::smartassert::setReporter([](const tiv::smartassert::Report& report) {
         warn(QStringLiteral("assertion failed: %1 (%2:%3)")
                  .arg(QString::fromUtf8(report.expression.data(), static_cast<int>(report.expression.size())),

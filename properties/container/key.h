@@ -63,7 +63,7 @@ class Key {
 
     // Members, so that comparing something else never asks whether that converts to a key.
     bool operator==(const Key& other) const {
-        constexpr boost::type_erasure::equality_comparable<> equal;
+        constexpr boost::type_erasure::equality_comparable<> equal{};
         return check_match(equal, value_, other.value_) && call(equal, value_, other.value_);
     }
     bool operator<(const Key& other) const { return value_ < other.value_; }

@@ -28,7 +28,9 @@ function(tiv_install_library target name)
         VERSION ${PROJECT_VERSION}
         SOVERSION ${PROJECT_VERSION_MAJOR}
         INSTALL_RPATH $ORIGIN)
-    if(UNIX AND NOT APPLE)
+    if(WIN32)
+        set_target_properties(${target} PROPERTIES PREFIX "")  # one name for all compilers
+    elseif(NOT APPLE)
         set(exported ${CMAKE_CURRENT_FUNCTION_LIST_DIR}/exported.map)
         target_link_options(${target} PRIVATE LINKER:--version-script=${exported})
         set_target_properties(${target} PROPERTIES LINK_DEPENDS ${exported})
@@ -67,3 +69,7 @@ install(EXPORT tiv_echotable-targets NAMESPACE tiv:: DESTINATION ${TIV_PACKAGE_D
 # The exceptions that a host catches; complete in their header.
 install(FILES ${PROJECT_SOURCE_DIR}/bond/exceptions.h
     DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/bond COMPONENT development)
+
+if(WIN32)
+    include(${CMAKE_CURRENT_LIST_DIR}/windows/runtime.cmake)
+endif()

@@ -1,0 +1,23 @@
+# On Windows an installed program finds its libraries in its own folder: what the package needs beside it.
+# The target `zip` packs an installation.
+foreach(module Core Gui Widgets)
+    install(FILES $<TARGET_FILE:Qt5::${module}> TYPE BIN)
+endforeach()
+install(FILES $<TARGET_FILE:Qt5::QWindowsIntegrationPlugin> DESTINATION ${CMAKE_INSTALL_BINDIR}/platforms)
+install(FILES $<TARGET_FILE:Qt5::QWindowsVistaStylePlugin> DESTINATION ${CMAKE_INSTALL_BINDIR}/styles)
+
+if(MINGW)
+    set(dependencies ${CMAKE_FIND_ROOT_PATH})
+    foreach(library libgcc_s_seh-1 libstdc++-6 libwinpthread-1)
+        install(FILES ${dependencies}/bin/${library}.dll TYPE BIN)
+    endforeach()
+    install(DIRECTORY ${dependencies}/licenses DESTINATION ${CMAKE_INSTALL_DOCDIR})
+
+    set(package ${PROJECT_NAME}-${PROJECT_VERSION}-windows-mingw64)
+    add_custom_target(zip
+        COMMAND ${CMAKE_COMMAND} -E rm -rf ${package} ${package}.zip
+        COMMAND ${CMAKE_COMMAND} --install . --strip --prefix ${package}
+        COMMAND ${CMAKE_COMMAND} -E tar cf ${package}.zip --format=zip ${package}
+        COMMAND ${CMAKE_COMMAND} -E echo "Packed ${PROJECT_BINARY_DIR}/${package}.zip"
+        WORKING_DIRECTORY ${PROJECT_BINARY_DIR})
+endif()

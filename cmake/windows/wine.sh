@@ -1,0 +1,21 @@
+#!/usr/bin/env bash
+# Runs a Windows program under Wine, without a display: wine.sh <program> [argument]...
+# `wine.sh --stop` ends what Wine keeps running between programs.
+set -euo pipefail
+build=$(cd "$(dirname "${BASH_SOURCE[0]}")/../../build" && pwd)
+export WINEPREFIX=$build/wine WINEDEBUG=-all WINEDLLOVERRIDES='mscoree=;mshtml='
+# Where DLLs are that are not beside the program, unless the caller knows better.
+export WINEPATH=${WINEPATH-Z:$build/windows-dependencies/bin}
+# Wine drops variables whose names begin with QT_. The offscreen platform draws text with these fonts alone.
+export WINEQT_QPA_PLATFORM=offscreen WINEQT_QPA_FONTDIR='Z:\usr\share\fonts\truetype\dejavu'
+
+[ "$1" != --stop ] || exec wineserver -k
+# The first program makes the prefix and starts services, which would hold its output open.
+(
+    flock 9
+    mkdir -p "$WINEPREFIX"
+    wineserver -k0 && exit  # it runs
+    wineserver -p600 9>&-
+    wine cmd /c exit 9>&-
+) 9>"$build/wine.lock" </dev/null >/dev/null 2>&1
+exec wine "$@"

@@ -28,8 +28,11 @@ QString readText(const QString& name) {
     QFile file(name);
     const bool open = piped ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
     const QByteArray bytes = open ? file.readAll() : QByteArray();
-    // Qt takes the end of a pipe for an error on Windows.
-    const bool failed = piped ? !open || std::ferror(stdin) != 0 : file.error() != QFileDevice::NoError;
+    bool failed = file.error() != QFileDevice::NoError;
+#if defined( \
+    Q_OS_WIN)  // Qt takes the end of a pipe for an error; elsewhere it leaves one in stdin as it waits
+    if (piped) failed = !open || std::ferror(stdin) != 0;
+#endif
     if (failed) throw failure(inputName(name), file.errorString());
     QString text = QTextCodec::codecForUtfText(bytes, QTextCodec::codecForName("UTF-8"))->toUnicode(bytes);
     return text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));

@@ -29,8 +29,8 @@ QString readText(const QString& name) {
     const bool open = piped ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
     const QByteArray bytes = open ? file.readAll() : QByteArray();
     bool failed = file.error() != QFileDevice::NoError;
-#if defined( \
-    Q_OS_WIN)  // Qt takes the end of a pipe for an error; elsewhere it leaves one in stdin as it waits
+#if defined(Q_OS_WIN)
+    // Qt takes the end of a pipe for an error; elsewhere it leaves one behind in stdin while it waits.
     if (piped) failed = !open || std::ferror(stdin) != 0;
 #endif
     if (failed) throw failure(inputName(name), file.errorString());

@@ -44,15 +44,15 @@ log=/dev/null
 trap '[ $? = 0 ] || tail -n 30 "$log" >&2' EXIT
 
 step() { # <name>: does build_<name> once, in a folder of its own that is removed afterwards
-    local stamp=$folder/stamps/$1 work=$folder/work/$1
+    local stamp=$folder/stamps/$1 scratch=$folder/scratch/$1
     [ ! -e "$stamp" ] || return 0
     log=$folder/logs/$1
     echo "Windows: $1 (log: $log)"
-    rm -rf "$work"
-    mkdir -p "$work"
+    rm -rf "$scratch"
+    mkdir -p "$scratch"
     SECONDS=0
-    (cd "$work" && "build_$1") >"$log" 2>&1
-    rm -rf "$work"
+    (cd "$scratch" && "build_$1") >"$log" 2>&1
+    rm -rf "$scratch"
     echo "Windows: $1 took $SECONDS s" | tee "$stamp"
 }
 

@@ -1,7 +1,6 @@
 #include "inspector/driver.h"
 
 #include <QApplication>
-#include <QComboBox>
 #include <QLabel>
 #include <QMenu>
 #include <QTest>
@@ -83,8 +82,8 @@ void Driver::type(const QString& text) {
 }
 
 QAbstractItemView* Driver::list() const {
-    const auto* box = view ? view->findChild<QComboBox*>() : nullptr;
-    return box && box->view()->isVisible() ? box->view() : nullptr;
+    const QWidget* popup = QApplication::activePopupWidget();
+    return popup ? popup->findChild<QAbstractItemView*>() : nullptr;
 }
 
 QStringList Driver::offered() const {

@@ -1,73 +1,101 @@
 #include "properties/qt/src/editors.h"
 
-#include <QAbstractItemView>
 #include <QCheckBox>
 #include <QEvent>
-#include <QItemSelectionModel>
+#include <QKeyEvent>
 #include <QLineEdit>
-#include <QTimer>
-#include <QWheelEvent>
+#include <QListWidget>
+#include <QMouseEvent>
+#include <QScreen>
+#include <QScrollBar>
+#include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace tiv::properties {
 
 NamedValueEditor::NamedValueEditor(QWidget* parent, std::shared_ptr<const Property> property)
-    : QComboBox(parent), property_(std::move(property)) {
+    : QFrame(parent, Qt::Popup), list_(new QListWidget(this)), property_(std::move(property)) {
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(list_);
+    setFrameShape(QFrame::Box);  // seen in a dark theme, too
+    list_->setFrameShape(QFrame::NoFrame);
+    list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    list_->setMouseTracking(true);  // what the mouse is over is marked
+    setFocusProxy(list_);
     fill();
-    connect(this, QOverload<int>::of(&QComboBox::activated), this, &NamedValueEditor::choose);
+    connect(list_, &QListWidget::itemEntered, list_, [this](auto* entry) { list_->setCurrentItem(entry); });
+    connect(list_, &QListWidget::itemClicked, this, &NamedValueEditor::choose);
+    connect(list_, &QListWidget::itemActivated, this, &NamedValueEditor::choose);
 }
 
 void NamedValueEditor::setValue(const QVariant& value) {
     value_ = value;
     const auto* isEqual = property_->configuration.get<IsEqual>("editor.is_equal");
-    int index = count() - 1;
-    while (index >= 0 && !(isEqual ? (*isEqual)(itemData(index), value) : itemData(index) == value)) --index;
-    setCurrentIndex(index);
-    if (view()->isVisible()) view()->setCurrentIndex(model()->index(index, modelColumn()));
+    int row = list_->count() - 1;
+    for (; row >= 0; --row) {
+        const QVariant offered = list_->item(row)->data(Qt::UserRole);
+        if (isEqual ? (*isEqual)(offered, value) : offered == value) break;
+    }
+    list_->setCurrentRow(row);
 }
 
-// Keeps the choice: only the texts differ from one call to the next.
 void NamedValueEditor::fill() {
     const auto* entries = property_->configuration.get<NamedValues>("editor.entries");
     if (!entries) return;
-    for (int i = 0; i < static_cast<int>((*entries)->size()); ++i) {
-        const NamedValue& entry = (**entries)[static_cast<std::size_t>(i)];
-        if (i < count())
-            setItemText(i, entry.text);
-        else
-            addItem(entry.text, entry.value);
+    const int marked = list_->currentRow();
+    list_->clear();
+    for (const NamedValue& entry : **entries)
+        (new QListWidgetItem(entry.text, list_))->setData(Qt::UserRole, entry.value);
+    list_->setCurrentRow(marked);
+}
+
+void NamedValueEditor::choose(QListWidgetItem* entry) {
+    isChosen_ = entry->isSelected();  // where none is marked, the first is the current one all the same
+    if (isChosen_) value_ = entry->data(Qt::UserRole);
+    hide();
+}
+
+// Below the cell, or above it where there is more room.
+void NamedValueEditor::placeAt(const QRect& cell) {
+    cell_ = cell;
+    const QRect room = screen()->availableGeometry();
+    const int below = room.bottom() - cell.bottom();
+    const int above = cell.top() - room.top();
+    int width = list_->sizeHintForColumn(0) + 2 * frameWidth();
+    int height = list_->sizeHintForRow(0) * list_->count() + 2 * frameWidth();
+    const bool goesBelow = height <= below || below >= above;
+    if (height > std::max(below, above)) {
+        height = std::max(below, above);
+        width += list_->verticalScrollBar()->sizeHint().width();
     }
+    width = std::clamp(width, cell.width(), std::max(cell.width(), room.width()));
+    const int left = isRightToLeft() ? cell.right() + 1 - width : cell.left();
+    setGeometry(std::clamp(left, room.left(), std::max(room.left(), room.right() + 1 - width)),
+        goesBelow ? cell.bottom() + 1 : cell.top() - height,
+        width,
+        height);
 }
 
-void NamedValueEditor::choose(int index) {
-    if (!view()->selectionModel()->isSelected(model()->index(index, modelColumn())))
-        return;  // none was marked
-    value_ = itemData(index);
-    isChosen_ = true;
-    emit chosen();
+void NamedValueEditor::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape) hide();
 }
 
-void NamedValueEditor::showPopup() {
-    QComboBox::showPopup();
-    view()->window()->installEventFilter(this);
-    if (currentIndex() < 0) view()->clearSelection();
+// A click outside closes the list and does there what it does, but for one into the list's own cell,
+// which would open it again.
+void NamedValueEditor::mousePressEvent(QMouseEvent* event) {
+    setAttribute(Qt::WA_NoMouseReplay, cell_.contains(event->globalPos()));
+    QFrame::mousePressEvent(event);
 }
 
-bool NamedValueEditor::eventFilter(QObject* watched, QEvent* event) {
-    // A choice is signalled right after the list is hidden: wait for it.
-    if (event->type() == QEvent::Hide)
-        QTimer::singleShot(0, this, [this] {
-            if (!isChosen_) emit cancelled();
-        });
-    return QComboBox::eventFilter(watched, event);
-}
-
-// The wheel scrolls the inspector; it never changes a value.
-void NamedValueEditor::wheelEvent(QWheelEvent* event) {
-    event->ignore();
+void NamedValueEditor::hideEvent(QHideEvent* event) {
+    QFrame::hideEvent(event);
+    emit closed();
 }
 
 void NamedValueEditor::changeEvent(QEvent* event) {
-    QComboBox::changeEvent(event);
+    QFrame::changeEvent(event);
     if (event->type() == QEvent::LanguageChange) fill();
 }
 

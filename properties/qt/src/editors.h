@@ -4,7 +4,8 @@
 
 #include "properties/nextgen/property.h"
 
-#include <QComboBox>
+#include <QFrame>
+#include <QRect>
 #include <QString>
 #include <QVariant>
 #include <QWidget>
@@ -14,11 +15,14 @@
 #include <memory>
 #include <utility>
 
+class QListWidget;
+class QListWidgetItem;
+
 namespace tiv::properties {
 
-// Offers the entries of a named value list. Carries the value itself, so one that is not in the list
-// stays what it is until another is chosen.
-class NamedValueEditor : public QComboBox {
+// A list of the entries of a named value list that opens at its cell. Carries the value itself, so one that
+// is not in the list stays what it is until another is chosen.
+class NamedValueEditor : public QFrame {
     Q_OBJECT
     Q_PROPERTY(QVariant value READ value WRITE setValue USER true)
  public:
@@ -26,23 +30,28 @@ class NamedValueEditor : public QComboBox {
 
     QVariant value() const { return value_; }
     void setValue(const QVariant& value);
+    // Whether value() is an entry that was picked, and not what it was set to.
+    bool isChosen() const { return isChosen_; }
+    // Where the cell is on the screen.
+    void placeAt(const QRect& cell);
 
  signals:
-    void chosen();     // an entry was picked; value() is its value
-    void cancelled();  // the list was closed without a choice
+    void closed();  // with or without a choice
 
  protected:
-    void showPopup() override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
-    void wheelEvent(QWheelEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
     void changeEvent(QEvent* event) override;
 
  private:
     void fill();
-    void choose(int index);
+    void choose(QListWidgetItem* entry);
 
+    QListWidget* list_;
     std::shared_ptr<const Property> property_;
     QVariant value_;
+    QRect cell_;
     bool isChosen_ = false;
 };
 

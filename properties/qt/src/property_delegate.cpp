@@ -3,13 +3,11 @@
 #include "properties/qt/src/property_view.h"
 #include "properties/qt/src/record_item_model.h"
 
-#include <QAbstractItemView>
 #include <QApplication>
 #include <QMetaProperty>
 #include <QPainter>
 #include <QPainterPath>
 #include <QTextOption>
-#include <QTimer>
 
 #include <algorithm>
 #include <utility>
@@ -48,34 +46,36 @@ QWidget* PropertyDelegate::createEditor(
     const auto property = static_cast<const RecordItemModel*>(index.model())->property(index);
     if (!property) return nullptr;
     QWidget* editor = factory_.create(parent, property);
-    editor->setAccessibleName(index.siblingAtColumn(RecordItemModel::LabelColumn).data().toString());
-    if (auto* list = qobject_cast<NamedValueEditor*>(editor)) {
-        list->view()->setAccessibleName(editor->accessibleName());
-        open(list);
-    }
+    if (auto* list = qobject_cast<NamedValueEditor*>(editor)) whenClosed(list);
     return editor;
 }
 
-// The list is open from the start, and closing it ends the editing. The focus stays with the table.
-void PropertyDelegate::open(NamedValueEditor* list) const {
+void PropertyDelegate::whenClosed(NamedValueEditor* list) const {
     auto* self = const_cast<PropertyDelegate*>(this);
-    connect(list, &NamedValueEditor::chosen, self, [self, list] {
-        emit self->commitData(list);
+    connect(list, &NamedValueEditor::closed, self, [self, list] {
+        if (list->isChosen()) emit self->commitData(list);
         emit self->closeEditor(list);
-    });
-    connect(list, &NamedValueEditor::cancelled, self, [self, list] {
-        emit self->closeEditor(list, RevertModelCache);
-    });
-    QTimer::singleShot(0, list, [list, view = view_] {
-        view->setFocus();
-        static_cast<QComboBox*>(list)->showPopup();
+        self->view_->setFocus();
     });
 }
 
-// An editor without the focus is done, but for one whose list is what is edited with.
+// An editor without the focus is done, but for a list, which says itself when it is.
 bool PropertyDelegate::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::FocusOut && qobject_cast<NamedValueEditor*>(watched)) return false;
-    return QStyledItemDelegate::eventFilter(watched, event);
+    return !qobject_cast<NamedValueEditor*>(watched) && QStyledItemDelegate::eventFilter(watched, event);
+}
+
+void PropertyDelegate::updateEditorGeometry(
+    QWidget* editor, const QStyleOptionViewItem& option, const QModelIndex& index) const {
+    if (auto* list = qobject_cast<NamedValueEditor*>(editor))
+        list->placeAt({view_->viewport()->mapToGlobal(option.rect.topLeft()), option.rect.size()});
+    else
+        QStyledItemDelegate::updateEditorGeometry(editor, option, index);
+}
+
+void PropertyDelegate::setEditorData(QWidget* editor, const QModelIndex& index) const {
+    editor->setAccessibleName(index.siblingAtColumn(RecordItemModel::LabelColumn).data().toString());
+    if (editor->focusProxy()) editor->focusProxy()->setAccessibleName(editor->accessibleName());
+    QStyledItemDelegate::setEditorData(editor, index);
 }
 
 void PropertyDelegate::setModelData(

@@ -20,6 +20,10 @@ class PropertyDelegate : public QStyledItemDelegate {
 
     QWidget* createEditor(
         QWidget* parent, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+    void updateEditorGeometry(
+        QWidget* editor, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+    // Hands it its label, too, for screen readers.
+    void setEditorData(QWidget* editor, const QModelIndex& index) const override;
     // Says what was entered. The record is not written here: that may destroy the editor's owner.
     void setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override;
     void paint(
@@ -33,7 +37,7 @@ class PropertyDelegate : public QStyledItemDelegate {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-    void open(NamedValueEditor* list) const;
+    void whenClosed(NamedValueEditor* list) const;
     void paintLine(QPainter* painter, const QStyleOptionViewItem& cell, const QString& text) const;
 
     PropertyView* view_;

@@ -21,7 +21,9 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <cstddef>
 #include <exception>
+#include <memory>
 #include <utility>
 
 namespace tiv::properties {
@@ -42,11 +44,22 @@ QString folded(const QString& text) {
     return result.toCaseFolded();
 }
 
-std::vector<PropertyValue> valuesOf(
-    const RecordItemModel& rows, const std::vector<std::shared_ptr<Property>>& list) {
+// From the values before to those after, of the same properties; none when nothing differs.
+std::unique_ptr<Step> stepBetween(
+    const std::vector<PropertyValue>& before, const std::vector<PropertyValue>& after) {
+    std::vector<PropertyValue> from, to;
+    for (std::size_t i = 0; i < after.size(); ++i) {
+        if (before[i].value == after[i].value) continue;
+        from.push_back(before[i]);
+        to.push_back(after[i]);
+    }
+    return to.empty() ? nullptr : std::make_unique<Step>(std::move(from), std::move(to));
+}
+
+std::vector<PropertyValue> valuesOf(const RecordItemModel& rows, const Properties& properties) {
     std::vector<PropertyValue> values;
-    values.reserve(list.size());
-    for (const auto& property : list) values.push_back({property, rows.current(*property)});
+    values.reserve(properties.list.size());
+    for (const auto& property : properties.list) values.push_back({property, rows.current(*property)});
     return values;
 }
 
@@ -244,16 +257,11 @@ void QtInspectorWidget::reset(const std::vector<std::shared_ptr<const Property>>
 }
 
 void QtInspectorWidget::apply(const std::vector<PropertyValue>& wanted) {
-    std::vector<PropertyValue> before, after;
-    for (const PropertyValue& one : wanted) {
-        const QVariant current = rows_->current(*one.property);
-        if (current == one.value) continue;
-        before.push_back({one.property, current});
-        after.push_back(one);
-    }
-    if (after.empty() || !write(after)) return;
-    undo_.push(new Step(before, after));
-    announce(after);
+    std::vector<PropertyValue> current;
+    current.reserve(wanted.size());
+    for (const PropertyValue& one : wanted) current.push_back({one.property, rows_->current(*one.property)});
+    auto step = stepBetween(current, wanted);
+    if (step && write(step->after)) undo_.push(step.release());
 }
 
 // What a screen reader reads out after a gesture of the engineer.
@@ -272,10 +280,12 @@ void QtInspectorWidget::announce(const std::vector<PropertyValue>& values) {
 }
 
 bool QtInspectorWidget::write(const std::vector<PropertyValue>& values) {
-    return change([&] {
+    const bool isWritten = change([&] {
         const container::model::Key key = *rows_->record();  // a copy: an observer may select another record
         setValues(values, rows_->objects(), key);
     });
+    if (isWritten) announce(values);
+    return isWritten;
 }
 
 bool QtInspectorWidget::change(const std::function<void()>& action) {
@@ -334,12 +344,13 @@ void QtInspectorWidget::copySettings() const {
 }
 
 void QtInspectorWidget::pasteSettings() {
-    const std::vector<PropertyValue> before = valuesOf(*rows_, properties_->list);
+    const std::vector<PropertyValue> before = valuesOf(*rows_, *properties_);
     const QString text = QApplication::clipboard()->text();
     if (!change([&] { host_.pasteSettings(text); })) return;
-    const std::vector<PropertyValue> after = valuesOf(*rows_, properties_->list);
-    const auto same = [](const PropertyValue& a, const PropertyValue& b) { return a.value == b.value; };
-    if (!std::equal(before.begin(), before.end(), after.begin(), same)) undo_.push(new Step(before, after));
+    auto step = stepBetween(before, valuesOf(*rows_, *properties_));
+    if (!step) return;
+    announce(step->after);
+    undo_.push(step.release());
 }
 
 // ---- filter ----

@@ -23,6 +23,8 @@ class Xlator {
 
     // An empty lookup leaves every text as it is.
     explicit Xlator(Lookup lookup);
+    Xlator(const Xlator&) = delete;
+    Xlator& operator=(const Xlator&) = delete;
 
     // The text in the user's language; the source text (UTF-8) while no struct is bound.
     QString text(const std::string& key, const char* sourceText) const;
@@ -35,7 +37,9 @@ class Xlator {
  private:
     friend void configure_xlator(Xlator&, const std::string&);
     struct Implementation;
+    struct Locales;  // in a file of its own: only a program that asks for a locale loads Boost.Locale
     std::shared_ptr<Implementation> implementation_;
+    std::shared_ptr<Locales> locales_;  // made with the first one
 };
 
 // Binds the translator to the struct whose fields are translated; its qualified name begins every key.

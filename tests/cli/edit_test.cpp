@@ -41,24 +41,24 @@ QString textOf(const QString& name) {
 TEST(EditWindow, SavesOnOkOnly) {
     const QTemporaryDir folder;
     const QString file = folder.filePath("static.txt");
-    edit(file, [](test::Driver window) {
-        EXPECT_EQ(window.widget->windowTitle(), "static.txt - esk");
-        window.choose("Loads", "Full output");
-        press(QDialogButtonBox::Cancel);
-    });
-    EXPECT_EQ(textOf(file), "no file");
-    edit(file, [](test::Driver window) {
-        EXPECT_EQ(window.row("Loads"), "Default output") << "a missing file means new settings";
-        window.choose("Loads", "Full output");
-        press(QDialogButtonBox::Ok);
-    });
-    EXPECT_EQ(textOf(file), "ClAGAAA=\n");
-    edit(file, [](test::Driver window) {
-        EXPECT_EQ(window.row("Loads"), "Full output*");
-        window.choose("Loads", "No output");
-        press(QDialogButtonBox::Cancel);
-    });
-    EXPECT_EQ(textOf(file), "ClAGAAA=\n");
+    const struct {
+        const char *before, *chosen;
+        QDialogButtonBox::StandardButton pressed;
+        const char* saved;
+    } steps[] = {
+        {"Default output", "Full output", QDialogButtonBox::Cancel, "no file"},
+        {"Default output", "Full output", QDialogButtonBox::Ok, "ClAGAAA=\n"},
+        {"Full output*", "No output", QDialogButtonBox::Cancel, "ClAGAAA=\n"},
+    };
+    for (const auto& step : steps) {
+        edit(file, [&](test::Driver window) {
+            EXPECT_EQ(window.widget->windowTitle(), "static.txt - esk");
+            EXPECT_EQ(window.row("Loads"), step.before);
+            window.choose("Loads", step.chosen);
+            press(step.pressed);
+        });
+        EXPECT_EQ(textOf(file), step.saved);
+    }
 }
 
 TEST(EditWindow, NeedsASettingsFileThatCanBeRead) {

@@ -6,11 +6,8 @@
 #include "support/failure.h"
 #include "support/printing.h"
 #include "support/reports.h"
+#include "support/session.h"
 #include "support/table.h"
-
-#include <QCoreApplication>
-#include <QEvent>
-#include <QLocale>
 
 #include <gmock/gmock.h>
 
@@ -18,7 +15,6 @@ namespace {
 
 using namespace test;
 using tiv::echo::EchoData;
-using Lines = std::vector<QString>;
 
 const Project everything(everyKind);
 
@@ -54,36 +50,16 @@ TEST(SettingsString, IsReadAsAWholeAndToldOnceOrChangesNothing) {
         failureOf([&] { table->insertXMLData("*"); }), testing::StartsWith("Transaction in progress"));
 }
 
-// The language of the application during a test.
-class German : public testing::Test {
- protected:
-    German() { speak(QLocale(QLocale::German, QLocale::Germany)); }
-    ~German() override { speak(QLocale::c()); }
-    static void speak(const QLocale& locale) {
-        QLocale::setDefault(locale);
-        QEvent change(QEvent::LocaleChange);
-        QCoreApplication::sendEvent(QCoreApplication::instance(), &change);
-    }
-};
-
-TEST_F(German, TranslatesEveryLabelCommentAndLevel) {
+TEST(EchoData, TranslatesEveryLabelCommentAndLevel) {
     QStringList sources{"Default output", "No output", "Normal output", "Full output", "Extensive output",
         "no output of text lists", "extensive output of text lists"};
     for (const ExpectedOption& o : expectedOptions()) sources << o.label << o.comment;
+    speak(true);
     for (const QString& source : sources)
         EXPECT_NE(EchoData::tr(source.toUtf8().constData()), source) << source.toStdString();
     EXPECT_EQ(EchoData::tr("no such text"), "no such text");
-}
-
-TEST_F(German, WritesTheCommentInTheApplicationsLanguageAndTheKeywordsInTheAskedOne) {
-    EchoData echo(EchoData::ESK, everything.handle);
-    echo.insertXMLData(R"({"prop":{"esk_reac":3}})");
-    EXPECT_EQ(echo.getTELINP(false, false, 1), Lines{"ECHO OPT REAC VAL FULL $ Auflagerreaktionen"});
-    EXPECT_EQ(echo.getTELINP(true, true, 2), Lines{"ECHO FULL FULL $ erweiterte Ausgabe von Textlisten"});
-    speak(QLocale::c());
-    EXPECT_EQ(echo.getTELINP(false, false, 0), Lines{"ECHO OPT REAK WERT VOLL $ Support reactions"});
-    EXPECT_EQ(echo.getTELINP(true, true, 0), Lines{"ECHO VOLL VOLL $ extensive output of text lists"});
-    EXPECT_EQ(echo.getTELINP(true, false, 0), Lines{"ECHO VOLL NEIN $ no output of text lists"});
+    speak(false);
+    EXPECT_EQ(EchoData::tr("Loads"), "Loads");
 }
 
 }  // namespace

@@ -1,7 +1,6 @@
 // Every program's table against its independent statement in data/programs.tsv.
 #include "echo/expected_options.h"
 #include "echo/src/internal_data.h"
-#include "echo/src/levels.h"
 #include "echo/src/program_classes.h"
 #include "support/printing.h"
 #include "support/reports.h"
@@ -63,33 +62,6 @@ TEST(EveryProgram, WritesTheLinesOfItsTableForAllLevelsElementsAndLanguages) {
                 ASSERT_EQ(loaded.getXMLData(), echo.getXMLData());
                 expectLines(loaded, options, levels, project);
             }
-        }
-    }
-}
-
-TEST(EveryProgram, ShowsTheOptionsOfItsTableWithLabelsDefaultsAndLevels) {
-    for (unsigned kinds = 0; kinds <= everyKind; ++kinds) {
-        const Project project(kinds);
-        for (const int type : {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 13}) {
-            SCOPED_TRACE(type);
-            std::vector<std::string> visible;
-            QStringList expected, properties;
-            for (const ExpectedOption& o : expectedOptions(type)) {
-                const QString key = o.shown == "-" ? QString("prop.forc") : o.shown;  // of nobody, in esk
-                if (project.has(o.needs)) visible.push_back(key.toStdString());
-                expected
-                    << QString("prop.%1|%2||%3|%4").arg(o.field, o.label).arg(o.byDefault).arg(o.offered);
-            }
-            const auto table = makeInternalData(EchoData::ProgrammTypes(type), project.handle);
-            for (const auto& p : table->properties->list) {
-                QString offered;
-                for (const auto& level : offeredLevels(p->key)) offered += level.value.toString();
-                properties << QStringList{QString::fromStdString(p->key), label(*table->properties, *p),
-                    p->category, defaultValue(*p).toString(), offered}
-                                  .join('|');
-            }
-            EXPECT_EQ(properties, expected);
-            EXPECT_EQ(table->visibleKeys, visible);
         }
     }
 }

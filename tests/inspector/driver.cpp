@@ -10,13 +10,6 @@
 
 namespace test {
 
-void settle() {
-    for (int i = 0; i < 3; ++i) {
-        QCoreApplication::processEvents();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    }
-}
-
 Driver::Driver(QWidget* inspector) : widget(inspector), view(inspector->findChild<QTreeView*>()) {
     widget->resize(640, 480);
     widget->show();

@@ -1,6 +1,8 @@
 // Drives an inspector as an engineer does, with mouse and keys, and reads from it what an engineer sees.
 #pragma once
 
+#include "support/session.h"
+
 #include <QPointer>
 #include <QString>
 #include <QStringList>
@@ -36,8 +38,5 @@ class Driver {
     const QPointer<QWidget> widget;
     const QPointer<QTreeView> view;
 };
-
-// Lets everything happen that is due.
-void settle();
 
 }  // namespace test

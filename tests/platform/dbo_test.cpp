@@ -10,7 +10,6 @@
 #include <sqlite3.h>
 
 #include <filesystem>
-#include <fstream>
 
 namespace tiv::dbo {
 namespace {
@@ -48,9 +47,8 @@ class Project : public testing::Test {
 };
 
 TEST_F(Project, isCreatedOnlyWhereNoFileIsAndOpenedOnlyFromAProjectFile) {
-    const std::string blocked = file("blocked"), letter = file("letter");
+    const std::string blocked = file("blocked");
     std::filesystem::create_directory(blocked + "-journal");
-    std::ofstream(letter) << "a letter to the engineer";
     const struct {
         int (*call)(const std::string&);
         std::string path;
@@ -63,9 +61,7 @@ TEST_F(Project, isCreatedOnlyWhereNoFileIsAndOpenedOnlyFromAProjectFile) {
         {createProject, blocked, "unable to open database file"},
         {openProject, blocked, "no such file"},
         {openProject, folder.path().toStdString(), "not a file"},
-        {openProject, letter, "file is not a database"},
         {openProject, file("other"), "not a project", "PRAGMA application_id = 0"},
-        {openProject, file("newer"), "project format 2, expected 1", "PRAGMA user_version = 2"},
         {openProject, file("less"), "no such table: elements", "DROP TABLE elements"},
     };
     for (const auto& row : rows) {

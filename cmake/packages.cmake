@@ -13,15 +13,15 @@ set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
 set(CPACK_DEBIAN_LIBRARY_PACKAGE_CONTROL_EXTRA ${CMAKE_CURRENT_LIST_DIR}/debian/triggers)
 set(CPACK_DEBIAN_ENABLE_COMPONENT_DEPENDS ON)
 
-# tiv_package(<component> <name> SECTION <section> SUMMARY <line> DESCRIPTION <line>... [DEPENDS <packages>]
-#     [RECOMMENDS <packages>]): the packages of the libraries that it is linked against are found by themselves.
+# tiv_package(<component> <name> SECTION <section> SUMMARY <line> DESCRIPTION <line>... [DEPENDS <packages>]):
+# the packages of the libraries that it is linked against are found by themselves.
 function(tiv_package component name)
-    cmake_parse_arguments(PACKAGE "" "SECTION;SUMMARY;DEPENDS;RECOMMENDS" DESCRIPTION ${ARGN})
+    cmake_parse_arguments(PACKAGE "" "SECTION;SUMMARY;DEPENDS" DESCRIPTION ${ARGN})
     string(TOUPPER ${component} COMPONENT)
     list(JOIN PACKAGE_DESCRIPTION "\n" description)
     set(CPACK_DEBIAN_${COMPONENT}_PACKAGE_NAME ${name} PARENT_SCOPE)
     set(CPACK_DEBIAN_${COMPONENT}_DESCRIPTION "${PACKAGE_SUMMARY}\n${description}" PARENT_SCOPE)
-    foreach(entry SECTION DEPENDS RECOMMENDS)
+    foreach(entry SECTION DEPENDS)
         set(CPACK_DEBIAN_${COMPONENT}_PACKAGE_${entry} "${PACKAGE_${entry}}" PARENT_SCOPE)
     endforeach()
     if(NOT component STREQUAL library)
@@ -47,7 +47,6 @@ tiv_package(echotable echotable SECTION science
         "Shows and changes what analysis programs print into their reports, keeps it"
         "in project files, and writes the ECHO lines of the programs' input.")
 tiv_package(echohost echohost SECTION science
-    RECOMMENDS libqt5svg5
     SUMMARY "editor for the echo tables of a project's analysis tasks"
     DESCRIPTION
         "A window with the analysis tasks of a project, the options of each, and the"

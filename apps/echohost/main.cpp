@@ -12,7 +12,7 @@ int main(int argc, char** argv) {
     QApplication::setApplicationDisplayName(QApplication::applicationName());  // ends every window title
     QApplication::setApplicationVersion(QStringLiteral(TIV_VERSION));
     QApplication::setDesktopFileName(QApplication::applicationName());
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/echohost/echohost.svg")));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/echohost/echohost.png")));
 
     const QCommandLineOption dark(
         QStringLiteral("dark"), QStringLiteral("Shows the window in dark colours."));

@@ -56,6 +56,8 @@ TEST(Inspector, ShowsTheApplicableOptionsInOrderWithExactlyTheirLevels) {
             Driver driver(widget.get());
             const QRect screen = widget->screen()->availableGeometry();
             widget->move(0, screen.bottom() - widget->height());  // lists open upwards, too
+            widget->setFont(QFont("DejaVu Serif", 8));
+            widget->setLayoutDirection(kinds == everyKind ? Qt::RightToLeft : Qt::LeftToRight);
             QStringList labels;
             for (const ExpectedOption& o : expectedOptions(type)) {
                 if (o.shown == "-" || !project.has(o.needs)) continue;
@@ -69,6 +71,8 @@ TEST(Inspector, ShowsTheApplicableOptionsInOrderWithExactlyTheirLevels) {
                 EXPECT_EQ(driver.marked(), driver.row(o.label)) << o.label.toStdString();
                 const QRect list = driver.list()->window()->frameGeometry();
                 const QRect cell = driver.cell(o.label, 1);
+                EXPECT_EQ(driver.list()->font().family(), "DejaVu Serif");
+                EXPECT_EQ(driver.list()->layoutDirection(), widget->layoutDirection());
                 EXPECT_TRUE(screen.contains(list)) << o.label.toStdString();
                 EXPECT_FALSE(list.intersects(cell.translated(driver.view->viewport()->mapToGlobal({}))));
                 driver.key(Qt::Key_Escape);

@@ -16,6 +16,8 @@ namespace tiv::properties {
 
 NamedValueEditor::NamedValueEditor(QWidget* parent, std::shared_ptr<const Property> property)
     : QFrame(parent, Qt::Popup), list_(new QListWidget(this)), property_(std::move(property)) {
+    setAttribute(Qt::WA_WindowPropagation);  // colours and font of the inspector
+    setLayoutDirection(parent->layoutDirection());
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(list_);

@@ -50,6 +50,7 @@ QWidget* PropertyDelegate::createEditor(
     return editor;
 }
 
+// The list ends the editing itself, and the focus goes back to the table.
 void PropertyDelegate::whenClosed(NamedValueEditor* list) const {
     auto* self = const_cast<PropertyDelegate*>(this);
     connect(list, &NamedValueEditor::closed, self, [self, list] {

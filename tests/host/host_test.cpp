@@ -69,14 +69,14 @@ class Host : public testing::Test {
             ADD_FAILURE() << "unexpected dialog";
             return void(dialog->close());
         }
-        if (auto* files = qobject_cast<QFileDialog*>(dialog))
+        if (auto* files = qobject_cast<QFileDialog*>(dialog)) {
             files->selectFile(file(answer));
-        else if (auto* program = dialog->findChild<QComboBox*>())
-            dialog->findChild<QLineEdit*>()->setText(answer.section(" = ", 0, 0)),
-                program->setCurrentIndex(answer.section(" = ", 1).toInt());
-        else
-            for (int i = 0; auto* count : dialog->findChildren<QSpinBox*>())
-                count->setValue(answer.section(' ', i, i).toInt()), ++i;
+        } else if (auto* program = dialog->findChild<QComboBox*>()) {
+            dialog->findChild<QLineEdit*>()->setText(answer.section(" = ", 0, 0));
+            program->setCurrentIndex(answer.section(" = ", 1).toInt());
+        }
+        const auto counts = dialog->findChildren<QSpinBox*>();
+        for (int i = 0; i < counts.size(); ++i) counts[i]->setValue(answer.section(' ', i, i).toInt());
         QMetaObject::invokeMethod(dialog, "accept");
     }
 
@@ -101,7 +101,7 @@ class Host : public testing::Test {
             window->findChild<QStackedWidget*>()->currentWidget()->findChild<QTreeView*>()->parentWidget());
     }
     QFrame* messageBar() const { return window->findChild<QFrame*>("messageBar"); }
-    // What is in a project file.
+    // What is in the project files.
     QString stored() const {
         QStringList result;
         const int database = dbo::openProject(path.toStdString());

@@ -39,27 +39,22 @@ int setLanguage(const QString& name) {
     return german ? 0 : 1;
 }
 
-// What `action` makes the library report.
-template <class Action>
-int reportsOf(Action action) {
-    int count = 0;
-    auto previous = smartassert::setReporter([&count](const smartassert::Report&) { ++count; });
-    const auto restore = qScopeGuard([&] { smartassert::setReporter(std::move(previous)); });
-    action();
-    return count;
-}
-
-// A report does not tell which option it is about: writing each one alone does.
-void nameReports(const Table& table, int language) {
+// The library reports such a level without a name.
+void warnOfLevelsWithoutKeyword(const Table& table, int language) {
     for (const Option& option : optionsOf(table)) {
         const echo::OutPutType level = levelOf(table, option);
-        std::vector<QString> line;
-        const int reports = reportsOf(
-            [&] { echo::data::appendOptionLine(line, table.flags, option.number, level, language); });
-        if (reports > 0)
+        const bool isWritten =
+            echo::data::isOptionApplicable(table.flags, option.number) && level != echo::DEFAULT_OUTPUT;
+        if (isWritten && !echo::data::levelKeyword(level, language))
             warn(QStringLiteral("%1: the level %2 has no keyword, its line is left out")
                      .arg(fieldName(option), word(level)));
     }
+}
+
+std::vector<QString> linesWithoutReports(Table& table, bool all, bool full, int language) {
+    auto reporter = smartassert::setReporter([](const smartassert::Report&) {});
+    const auto restore = qScopeGuard([&] { smartassert::setReporter(std::move(reporter)); });
+    return table.getTELINP(all, full, language);
 }
 
 void run(const QCommandLineParser& arguments) {
@@ -69,11 +64,10 @@ void run(const QCommandLineParser& arguments) {
     const int language = setLanguage(arguments.value(languageOption()));
     const auto table = tableOf(arguments);
 
-    std::vector<QString> lines;
-    if (reportsOf([&] { lines = table->getTELINP(off || full, full, language); }) > 0)
-        nameReports(*table, language);
+    if (!off && !full) warnOfLevelsWithoutKeyword(*table, language);
     QString text;
-    for (const QString& line : lines) text += line + QLatin1Char('\n');
+    for (const QString& line : linesWithoutReports(*table, off || full, full, language))
+        text += line + QLatin1Char('\n');
     print(text);
 }
 

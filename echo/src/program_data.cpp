@@ -1,11 +1,10 @@
 #include "echo/src/program_data.h"
 
 #include "echo/schema/output_type.h"
-#include "echo/src/utils.h"
 #include "properties/qt/inc/nextgen/from_bond.h"
 #include "tiv/smartassert/smart_assert.h"
 
-#include <map>
+#include <array>
 #include <string>
 
 namespace tiv::echo::data {
@@ -17,15 +16,21 @@ const Variant* variantFor(const Program& program, EchoData::ProgrammTypes type) 
     return program.otherTypes == OtherTypes::Refused ? nullptr : program.variants.data();
 }
 
-// Both keywords of an option, "REAC, REAK", or the one that it has in both languages. One text for all
-// tables, which share it.
-const QString& keywords(int option) {
-    static std::map<int, QString> known;
-    QString& both = known[option];
-    if (!both.isNull()) return both;
+// "REAC, REAK", or the one keyword that an option has in both languages.
+QString bothKeywords(int option) {
     const QString english = optionText(option, 1).keyword;
     const QString german = optionText(option, 0).keyword;
-    return both = english == german ? english : english + QStringLiteral(", ") + german;
+    return english == german ? english : english + QStringLiteral(", ") + german;
+}
+
+// One text for all tables, which share it.
+const QString& keywords(int option) {
+    static const auto all = [] {
+        std::array<QString, optionCount> texts;
+        for (int i = 0; i < optionCount; ++i) texts[i] = bothKeywords(i);
+        return texts;
+    }();
+    return all[option];
 }
 
 }  // namespace

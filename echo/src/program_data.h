@@ -8,6 +8,7 @@
 
 #include "echo/src/internal_data.h"
 #include "echo/src/settings_string.h"
+#include "echo/src/utils.h"
 #include "properties/nextgen/record_access.h"
 
 #include <cstddef>
@@ -17,8 +18,10 @@ namespace tiv::echo::data {
 
 // The row of the global option table (utils.h) that a field writes.
 struct OptionNumber {
-    // Implicit, so that a table of options reads as a list of numbers.
-    constexpr OptionNumber(int row, const char* key = nullptr) : number(row), shownAs(key) {}
+    // Implicit, so that a table of options reads as a list of numbers. A number outside the table does not
+    // compile.
+    consteval OptionNumber(int row, const char* key = nullptr)
+        : number(row >= 0 && row < optionCount ? row : throw "no such option"), shownAs(key) {}
     int number;
     const char* shownAs;  // the key that is made visible; null: "prop.<field>"
 };

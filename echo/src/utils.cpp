@@ -84,7 +84,7 @@ constexpr Option options[] = {
     {"LPOS", "LPOS", "Load positions"},                                               // 63
     {"ERG", "RES", "Results"},                                                        // 64
 };
-static_assert(std::size(options) == 65);
+static_assert(std::size(options) == optionCount);
 
 struct Keyword {
     const char* german;
@@ -94,39 +94,46 @@ struct Keyword {
 // By level; DEFAULT_OUTPUT writes no line.
 constexpr Keyword levels[] = {{}, {"NEIN", "NO"}, {"JA", "YES"}, {"VOLL", "FULL"}, {"EXTR", "EXTR"}};
 
-bool hasKeyword(OutPutType level) {
-    return level >= NO_OUTPUT && level <= EXTENSIVE_OUTPUT;
-}
-
 QLatin1String word(const char* german, const char* english, int language) {
     return QLatin1String(language == 0 ? german : english);
+}
+
+const Option* rowOf(int option) {
+    return option >= 0 && option < optionCount ? &options[option] : nullptr;
+}
+
+// Null for a level without a keyword.
+QLatin1String keywordOf(OutPutType level, int language) {
+    if (level < NO_OUTPUT || level > EXTENSIVE_OUTPUT) return {};
+    return word(levels[level].german, levels[level].english, language);
 }
 
 }  // namespace
 
 OptionText optionText(int option, int language) {
-    if (option < 0 || option >= static_cast<int>(std::size(options))) return {QString(), nullptr};
-    const Option& o = options[option];
-    return {word(o.german, o.english, language), o.description};
+    const Option* row = rowOf(option);
+    if (!row) return {QString(), nullptr};
+    return {word(row->german, row->english, language), row->description};
 }
 
 std::optional<QString> levelKeyword(OutPutType level, int language) {
-    if (!hasKeyword(level)) return std::nullopt;
-    return word(levels[level].german, levels[level].english, language);
+    const QLatin1String keyword = keywordOf(level, language);
+    if (keyword.isNull()) return std::nullopt;
+    return keyword;
 }
 
 void appendOptionLine(
     std::vector<QString>& lines, const ElementTypeFlags& flags, int option, OutPutType level, int language) {
-    if (!isOptionApplicable(flags, option) || level == DEFAULT_OUTPUT) return;
-    if (!hasKeyword(level)) {
+    const Option* row = rowOf(option);
+    if (!row || !isOptionApplicable(flags, option) || level == DEFAULT_OUTPUT) return;
+    const QLatin1String keyword = keywordOf(level, language);
+    if (keyword.isNull()) {
         smartassert::SmartAssert("0", "echo/src/utils", 48);
         return;
     }
-    const Option& o = options[option];
-    lines.push_back(QLatin1String("ECHO OPT ") % word(o.german, o.english, language) %
-                    word(" WERT ", " VAL ", language) %
-                    word(levels[level].german, levels[level].english, language) % QLatin1String(" $ ") %
-                    EchoData::tr(o.description));
+    lines.push_back(QLatin1String("ECHO OPT ") % word(row->german, row->english, language) %
+                    word(" WERT ", " VAL ", language) % keyword % QLatin1String(" $ ") %
+                    EchoData::tr(row->description));
 }
 
 std::vector<QString> defaultsLine(int language, bool extensive) {

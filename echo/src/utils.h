@@ -19,6 +19,8 @@
 
 namespace tiv::echo::data {
 
+inline constexpr int optionCount = 65;
+
 struct OptionText {
     QString keyword;          // null outside the table
     const char* description;  // untranslated; null outside the table
@@ -28,8 +30,8 @@ OptionText optionText(int option, int language);
 // The keyword of a level; none for DEFAULT_OUTPUT and for a level that has no keyword.
 std::optional<QString> levelKeyword(OutPutType level, int language);
 
-// Appends the option's line, or nothing: for an option that does not apply, for DEFAULT_OUTPUT, and for
-// a level without a keyword, which is reported as a failed assertion.
+// Appends the option's line, or nothing: for an option that does not apply or is outside the table, for
+// DEFAULT_OUTPUT, and for a level without a keyword, which is reported as a failed assertion.
 void appendOptionLine(
     std::vector<QString>& lines, const ElementTypeFlags& flags, int option, OutPutType level, int language);
 

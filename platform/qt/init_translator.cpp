@@ -3,7 +3,7 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <QLocale>
-#include <QObject>
+#include <QStringList>
 #include <QTranslator>
 
 #include <memory>
@@ -12,43 +12,61 @@
 namespace tiv::qt {
 namespace {
 
-// The catalogue of the application's locale, changed with it.
-class Catalogue : public QObject {
+// Translates from the catalogue of the application's language, and changes it with that. It stays installed
+// itself, so that the host's translators keep their places before or behind it.
+class Catalogue : public QTranslator {
  public:
-    Catalogue(QString name, QCoreApplication* application) : QObject(application), name_(std::move(name)) {
-        application->installEventFilter(this);
+    Catalogue(QString name, QCoreApplication* application)
+        : QTranslator(application), name_(std::move(name)) {
         follow();
+        application->installEventFilter(this);
+        QCoreApplication::installTranslator(this);
+    }
+
+    bool isEmpty() const override { return !current_; }
+    QString translate(
+        const char* context, const char* text, const char* disambiguation, int n) const override {
+        return current_ ? current_->translate(context, text, disambiguation, n) : QString();
     }
 
  private:
     bool eventFilter(QObject* watched, QEvent* event) override {
-        const bool maybeOther =
-            event->type() == QEvent::LocaleChange || event->type() == QEvent::LanguageChange;
-        if (maybeOther && watched == QCoreApplication::instance()) follow();
+        if (watched != QCoreApplication::instance()) return false;
+        if (event->type() == QEvent::LanguageChange) follow();
+        if (event->type() == QEvent::LocaleChange && follow()) {
+            QEvent change(QEvent::LanguageChange);
+            QCoreApplication::sendEvent(watched, &change);
+        }
         return false;
     }
 
-    void follow() {
-        const QString locale = QLocale().name();
-        if (locale == locale_) return;
-        locale_ = locale;  // before the change: installing sends a LanguageChange itself
-        auto translator = std::make_unique<QTranslator>();
-        const QString folder = libraryFolder();
-        const bool found = load(*translator, folder) ||
-                           load(*translator, folder + QStringLiteral("/" TIV_CATALOGUES)) ||
-                           load(*translator, QStringLiteral(":/tiv/translations"));
-        const auto previous = std::exchange(translator_, found ? std::move(translator) : nullptr);
-        if (translator_) QCoreApplication::installTranslator(translator_.get());
-        if (previous) QCoreApplication::removeTranslator(previous.get());
+    // Whether the languages have changed.
+    bool follow() {
+        const QStringList languages = QLocale().uiLanguages();
+        if (languages == languages_) return false;
+        languages_ = languages;
+        current_ = catalogueOf(languages);
+        return true;
     }
 
-    bool load(QTranslator& translator, const QString& folder) const {
-        return translator.load(QLocale(), name_, QStringLiteral("_"), folder);
+    // None for English, in which the texts are written, or for languages that have none.
+    std::unique_ptr<QTranslator> catalogueOf(const QStringList& languages) const {
+        const QString folder = libraryFolder();
+        const QString folders[] = {
+            folder, folder + QStringLiteral("/" TIV_CATALOGUES), QStringLiteral(":/tiv/translations")};
+        auto translator = std::make_unique<QTranslator>();
+        for (const QString& name : languages) {
+            const QLocale language(name);
+            if (language.language() == QLocale::English || language.language() == QLocale::C) return nullptr;
+            for (const QString& place : folders)
+                if (translator->load(language, name_, QStringLiteral("_"), place)) return translator;
+        }
+        return nullptr;
     }
 
     QString name_;
-    QString locale_;
-    std::unique_ptr<QTranslator> translator_;
+    QStringList languages_;  // most wanted first
+    std::unique_ptr<QTranslator> current_;
 };
 
 // A pre-routine has no argument: this code is linked into each library, which has one installer.

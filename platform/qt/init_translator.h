@@ -2,11 +2,12 @@
 //
 //     const tiv::qt::TIV_QT_InitTranslator translator("tiv_echotable_dll");   // static, at namespace scope
 //
-// The catalogue is "<name>_<locale>.qm" for the default QLocale, looked for beside the library, in
-// the folder of the installed catalogues, as the libraries see it, and in the resource ":/tiv/translations". It is
-// installed when the application object exists: at once, or as soon as the host makes one. It follows
-// the application's locale: after QLocale::setDefault a host installs a translator of its own, or sends
-// the application a QEvent::LocaleChange.
+// The catalogue is "<name>_<language>.qm" for the first of QLocale().uiLanguages() that has one or is English,
+// which needs none. It is looked for beside the library, in the folder of the installed catalogues, as the
+// libraries see it, and in the resource ":/tiv/translations". It is installed when the application object
+// exists: at once, or as soon as the host makes one; a library loaded behind an application object serves that
+// one only. It follows the languages: after QLocale::setDefault a host installs a translator of its own, or
+// sends the application a QEvent::LocaleChange.
 #pragma once
 
 #include <QObject>

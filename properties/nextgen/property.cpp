@@ -25,6 +25,7 @@ QString translated(const Properties& properties, const std::string& key, const c
 template <class T>
 T converted(const QVariant& value) {
     bool ok = true;
+    if (std::is_integral_v<T> && isFloatingPoint(value)) conversionFailed();  // would be rounded
     if constexpr (std::is_same_v<T, std::string>) {
         if (!value.canConvert<QString>()) conversionFailed();
         return value.toString().toStdString();
@@ -44,7 +45,6 @@ T converted(const QVariant& value) {
         if (!ok || negative || number > std::numeric_limits<T>::max()) conversionFailed();
         return static_cast<T>(number);
     } else {
-        if (value.type() == QVariant::Double) conversionFailed();  // would be rounded
         const qlonglong number = value.toLongLong(&ok);
         const bool fits = number >= std::numeric_limits<T>::min() && number <= std::numeric_limits<T>::max();
         if (!ok || !fits) conversionFailed();
@@ -74,6 +74,10 @@ const void* structAt(const Property& property, const void* record) {
 }
 
 }  // namespace
+
+bool isFloatingPoint(const QVariant& value) {
+    return value.userType() == QMetaType::Double || value.userType() == QMetaType::Float;
+}
 
 QString label(const Properties& properties, const Property& property) {
     return translated(properties, property.key, property.displayName);

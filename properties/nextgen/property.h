@@ -52,6 +52,8 @@ struct PropertyValue {
     std::shared_ptr<const Property> property;
     QVariant value;
 };
+// Whether it holds a float or double, from which no whole number is made.
+bool isFloatingPoint(const QVariant& value);
 // Sets the fields of one record in one transaction. A text is converted to the field's type.
 // Throws std::runtime_error "Conversion failed." when a value does not fit its field, and what
 // Transaction and ObjectHandle::modify throw; the record is then unchanged.

@@ -62,6 +62,8 @@ TEST_F(EveryProperty, NamesTheValuesOfAnEnumerationToEditorAndValidator) {
         EXPECT_EQ(entries[8].value, 8);
         const IsEqual isEqual = *branch.get<IsEqual>("is_equal");
         EXPECT_TRUE(isEqual(3, 3LL) && !isEqual(3, -1));
+        for (const QVariant& noNumber : {QVariant(), QVariant("abc"), QVariant(0.4)})
+            EXPECT_FALSE(isEqual(0, noNumber)) << noNumber.typeName();
     }
 }
 
@@ -73,12 +75,14 @@ TEST_F(EveryProperty, KeepsAValueThatFitsAndRefusesOneThatDoesNot) {
     } rows[] = {
         {0, false, false},
         {0, 2, {}},
+        {0, -0.4, {}},
         {1, "-128", -128},
         {1, 128, {}},
-        {1, 1.5, {}},
+        {1, 1.5F, {}},
         {1, "three", {}},
         {2, std::numeric_limits<qulonglong>::max(), std::numeric_limits<qulonglong>::max()},
         {2, -1, {}},
+        {2, 1.5, {}},
         {3, "2.25", 2.25},
         {3, "wide", {}},
         {3, std::numeric_limits<double>::quiet_NaN(), {}},

@@ -27,8 +27,15 @@ NamedValues enumerators(const bond::EnumSchema& enumeration) {
     return entries;
 }
 
+std::optional<qlonglong> wholeNumber(const QVariant& value) {
+    bool isNumber = false;
+    const qlonglong number = value.toLongLong(&isNumber);
+    return isNumber && !isFloatingPoint(value) ? std::optional(number) : std::nullopt;
+}
+
 bool equalNumbers(const QVariant& a, const QVariant& b) {
-    return a.toLongLong() == b.toLongLong();
+    const auto number = wholeNumber(a);
+    return number && number == wholeNumber(b);
 }
 
 // `known` keeps the entries of an enumeration for the next field of the same type.

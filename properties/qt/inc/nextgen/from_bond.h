@@ -23,9 +23,6 @@
 
 namespace tiv::properties {
 
-// The list editor's and list validator's kind.
-inline constexpr char namedValueList[] = "named_value_list";
-
 // Appends a property for every field with a label, in order of the schema; nested structs are entered.
 // Throws boost::bad_lexical_cast (a std::bad_cast) on a PropertyWeight that is no whole 32-bit number;
 // `properties` is then unchanged.

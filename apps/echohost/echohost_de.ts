@@ -106,6 +106,10 @@
 <context>
     <name>Project</name>
     <message>
+        <source>%1 records instead of one</source>
+        <translation>%1 Datensätze statt eines</translation>
+    </message>
+    <message>
         <source>A task needs a name.</source>
         <translation>Eine Aufgabe braucht einen Namen.</translation>
     </message>

@@ -237,13 +237,14 @@ void MainWindow::newProject() {
     if (!mayLeave()) return;
     const auto counts = askElementCounts(this);
     if (!counts) return;
-    const QString file = QFileDialog::getSaveFileName(this,
+    QString file = QFileDialog::getSaveFileName(this,
         tr("New project"),
         QString(),
         tr("Projects (*.tiv)"),
         nullptr,
         QFileDialog::DontConfirmOverwrite);  // a project is never overwritten
     if (file.isEmpty()) return;
+    if (QFileInfo(file).suffix().isEmpty()) file += QLatin1String(".tiv");
     createProject(file, *counts);
     openProject(file);
 }

@@ -20,11 +20,15 @@ Task::Task(dbo::Task stored, int database) : task_(std::move(stored)), database_
 EchoData& Task::echo() {
     if (echo_) return *echo_;
     echo_ = std::make_unique<EchoData>(static_cast<EchoData::ProgrammTypes>(task_.programType), database_);
+    const QString settings = QString::fromStdString(task_.settings);
     try {
-        echo_->insertXMLData(QString::fromStdString(task_.settings));
-    } catch (const bond::Exception& refusal) {  // the options have their defaults now
+        echo_->insertXMLData(settings);
+        const auto records = settings.split(QLatin1Char('\n'), Qt::SkipEmptyParts).size();
+        if (records > 1)
+            problem_ = QCoreApplication::translate("Project", "%1 records instead of one").arg(records);
+    } catch (const bond::Exception& refusal) {
         problem_ = QString::fromUtf8(refusal.what());
-    }
+    }  // with a problem, the options have their defaults now
     unedited_ = echo_->getXMLData();
     return *echo_;
 }

@@ -5,6 +5,8 @@
 #include "properties/qt/src/qt_inspector_widget.h"
 
 #include <QByteArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 
 #include <algorithm>
 #include <stdexcept>
@@ -12,20 +14,27 @@
 namespace tiv::echo::data {
 namespace {
 
+constexpr char settingsFirstByte = 0x0a;  // Compact Binary: a struct with id 0
+
 using WeakTable = std::weak_ptr<InternalInterface>;
 
-bool isBase64(const QString& line) {
-    return !QByteArray::fromBase64Encoding(line.toLatin1(), QByteArray::AbortOnBase64DecodingErrors)
-                .decoded.isEmpty();
+// Whether a line begins as settings do, with the envelope's field "prop". Whether it can be read is another
+// question.
+bool beginsAsSettings(const QString& line) {
+    if (line.startsWith(QLatin1Char('{'))) {
+        const QJsonDocument json = QJsonDocument::fromJson(line.toUtf8());
+        return json.isNull() || json.object().contains(QStringLiteral("prop"));
+    }
+    const auto bytes =
+        QByteArray::fromBase64Encoding(line.toLatin1(), QByteArray::AbortOnBase64DecodingErrors);
+    return bytes && bytes.decoded.startsWith(settingsFirstByte);
 }
 
 // The loader is lenient with what a host has stored; a clipboard may hold anything, and a text of two
-// lines, or one that only happens to be read, would reset every option.
+// lines, or a word that only happens to be read, would reset every option.
 void paste(InternalInterface& table, const QString& text) {
     const QString line = text.trimmed();
-    const bool oneRecord =
-        !line.contains(QLatin1Char('\n')) && (line.startsWith(QLatin1Char('{')) || isBase64(line));
-    if (!oneRecord)
+    if (line.contains(QLatin1Char('\n')) || !beginsAsSettings(line))
         throw std::invalid_argument(EchoData::tr("The clipboard does not hold settings.").toStdString());
     table.insertXMLData(line);
 }

@@ -121,9 +121,10 @@ class Host : public testing::Test {
         dbo::closeProject(database);
         return counts.join(' ');
     }
-    void storeTask(const QString& name, int program) const {
+    void storeTask(const QString& name, const QString& programAndSettings) const {
         const int database = dbo::openProject(path.toStdString());
-        dbo::storeTask(database, {name.toStdString(), program, "kept"});
+        dbo::storeTask(database, {name.toStdString(), programAndSettings.section(' ', 0, 0).toInt(),
+                                     programAndSettings.section(' ', 1).toStdString()});
         dbo::closeProject(database);
     }
     QString content(const QString& name) const {
@@ -158,7 +159,7 @@ TEST_F(Host, KeepsToItsSessions) {
         {"defaults", [&](const Words&) { messageBar()->findChild<QAbstractButton*>()->click(); }},
         {"undo", [&](const Words&) { inspector().key(Qt::Key_Z, Qt::ControlModifier); }},
         {"lines-in", [&](const Words& w) { chooseAbove(w.all); }},
-        {"store", [&](const Words& w) { storeTask(w.label, w.value.toInt()); }},
+        {"store", [&](const Words& w) { storeTask(w.label, w.value); }},
         {"lock", [&](const Words&) { lock(); }},
         {"unlock", [&](const Words&) { other.reset(); }},
         {"close", [&](const Words&) { window->close(); }},

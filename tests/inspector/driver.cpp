@@ -6,6 +6,8 @@
 #include <QTest>
 #include <QWheelEvent>
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
 
 namespace test {
@@ -93,32 +95,38 @@ QString Driver::marked() const {
     return open->selectionModel()->selectedIndexes().front().data().toString();
 }
 
-void Driver::pick(const QString& level) {
+bool Driver::pick(const QString& level) {
     auto* open = list();
     const int entry = static_cast<int>(offered().indexOf(level));
-    if (!open || entry < 0) return;
+    if (!open || entry < 0) return false;
     QTest::mouseClick(
         open->viewport(), Qt::LeftButton, {}, open->visualRect(open->model()->index(entry, 0)).center());
-    settle();
+    return true;
 }
 
 void Driver::choose(const QString& label, const QString& level) {
     click(label);
     pick(level);
+    settle();
 }
 
-void Driver::menu(const QString& entry) {
+bool Driver::menu(const QString& entry) {
     emit view->customContextMenuRequested({});
     QList<QAction*> actions = widget->findChild<QMenu*>(QString(), Qt::FindDirectChildrenOnly)->actions();
+    QAction* found = nullptr;
     for (const QString& text : entry.split('/')) {
-        const auto named = [&](const QAction* one) { return one->text() == text && one->isEnabled(); };
-        const auto found = std::find_if(actions.begin(), actions.end(), named);
-        if (found == actions.end()) break;
-        QMenu* below = (*found)->menu();
-        below ? void(actions = below->actions()) : (*found)->trigger();
+        const auto named = [&](const QAction* one) { return one->text() == text; };
+        const auto at = std::find_if(actions.begin(), actions.end(), named);
+        found = at != actions.end() ? *at : nullptr;
+        EXPECT_TRUE(found) << text.toStdString();
+        if (!found) break;
+        if (found->menu()) actions = found->menu()->actions();
     }
+    const bool isEnabled = found && found->isEnabled();
+    if (isEnabled) found->trigger();
     QApplication::activePopupWidget()->close();
     settle();
+    return isEnabled;
 }
 
 QString Driver::tip(const QString& label) const {

@@ -27,10 +27,11 @@ class Driver {
     // The open list of levels, or null.
     QAbstractItemView* list() const;
     QStringList offered() const;
-    QString marked() const;  // the list's current entry
-    void pick(const QString& level);
+    QString marked() const;                                   // the list's current entry
+    bool pick(const QString& level);                          // false: no open list offers it
     void choose(const QString& label, const QString& level);  // two clicks
-    void menu(const QString& entry);                          // of the context menu: "Set to/Full output"
+    // Of the context menu, "Set to/Full output"; false: it is disabled.
+    bool menu(const QString& entry);
     QString tip(const QString& label) const;
     QString message() const;  // the sentence below the table; empty when none is shown
     bool hasFocus() const;

@@ -97,6 +97,9 @@ TEST(Inspector, ChangesNothingByWheelOrNavigation) {
     driver.key(Qt::Key_F2);
     ASSERT_TRUE(driver.list());
     driver.wheel(driver.list()->viewport());
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
+    QApplication::sendEvent(driver.list(), &held);
+    EXPECT_TRUE(driver.list());
     driver.wheel(driver.view->findChild<QWidget*>("qt_scrollarea_viewport"));
     driver.key(Qt::Key_Escape);
     std::mt19937 random(5);
@@ -125,7 +128,10 @@ TEST(Inspector, FollowsEveryChangeOfTheRecordInAllInspectors) {
     EXPECT_EQ(first.marked(), "Normal output");  // the open list follows
     first.key(Qt::Key_Escape);
     EXPECT_EQ(first.row("Loads"), "Normal output*");
-    second.choose("Loads", "No output");
+    second.click("Loads");
+    EXPECT_TRUE(second.pick("No output"));
+    EXPECT_EQ(host.echo->getXMLData(), "ClAC0AkGAAA=\n") << "before the next event";
+    settle();
     EXPECT_EQ(first.row("Loads"), "No output*");
     EXPECT_EQ(first.view->currentIndex().data().toString(), "No output");  // still on its row
 }
@@ -177,6 +183,14 @@ TEST(Inspector, SpeaksToAScreenReader) {
     QApplication::clipboard()->setText(json(R"("disp":2,"load":4)"));
     driver.key(Qt::Key_V, Qt::ControlModifier);
     EXPECT_EQ(std::count(spoken.begin(), spoken.end(), QAccessible::ValueChanged), 1 + 2);
+    driver.key(Qt::Key_F, Qt::ControlModifier);
+    driver.type("sum");  // nothing else is to be seen
+    driver.view->setFocus();
+    spoken.clear();
+    QApplication::clipboard()->setText(json(R"("lsum":2,"load":1)"));
+    driver.key(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(driver.rows(), QStringList("Sum of loads=Normal output*"));
+    EXPECT_EQ(std::count(spoken.begin(), spoken.end(), QAccessible::ValueChanged), 1);
     QAccessible::installUpdateHandler(previous);
     platform->setActive(false);
 }
@@ -186,6 +200,7 @@ TEST(Inspector, CutsNoLabelAt460Pixels) {
     for (const int points : {9, 12, 24})
         for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft})
             for (const auto type : {EchoData::QSX_ELPL, EchoData::ESK, EchoData::MEXORA, EchoData::PLAX2}) {
+                speak(direction == Qt::LeftToRight);  // German has the longer words
                 QFont font = before;
                 font.setPointSize(points);
                 QApplication::setFont(font);
@@ -205,6 +220,7 @@ TEST(Inspector, CutsNoLabelAt460Pixels) {
                     EXPECT_LE(needed.height(), cell.height()) << label.toStdString() << ' ' << points;
                 }
             }
+    speak(false);
     QApplication::setLayoutDirection(Qt::LeftToRight);
     QApplication::setFont(before);
 }
@@ -226,37 +242,58 @@ TEST(Inspector, LeavesNothingBehind) {
 
 // What is destroyed first, and what the inspector is doing then.
 TEST(Inspector, SurvivesEveryOrderOfDestruction) {
-    for (const std::string victim : {"widget", "parent", "echo"})
-        for (const std::string doing :
-            {"idle", "list open", "filter focused", "told of a change", "signalled"}) {
-            SCOPED_TRACE(victim + ", " + doing);
-            auto table = tiv::echo::data::makeInternalData(EchoData::ESK, everyElement());
-            auto window = std::make_unique<QWidget>();
-            QPointer<QWidget> widget = tiv::echo::data::makeInspector(table, window.get());
-            Driver driver(widget);
-            const auto model = table->model;
-            const auto destroy = [&] {
-                if (victim == "widget") delete widget;
-                if (victim == "parent") window.reset();
-                if (victim == "echo") table.reset();
-            };
-            if (doing == "list open" || doing == "told of a change" || doing == "signalled")
+    struct Case {
+        const char* doing;
+        std::function<void(Driver&)> gesture;
+        bool changes = false;  // the record, whose observer then destroys
+    };
+    const Case cases[] = {
+        {"idle", [](Driver&) {}},
+        {"list open", [](Driver& driver) { driver.click("Loads"); }},
+        {"filter focused", [](Driver& driver) { driver.key(Qt::Key_F, Qt::ControlModifier); }},
+        {"level clicked", [](Driver& driver) { driver.choose("Loads", "No output"); }, true},
+        {"reset clicked", [](Driver& driver) { driver.click("Loads", 2); }, true},
+        {"level entered",
+            [](Driver& driver) {
                 driver.click("Loads");
-            if (doing == "filter focused") driver.key(Qt::Key_F, Qt::ControlModifier);
-            if (doing == "told of a change") model->onChange([&](const auto&) { destroy(); });
-            if (doing == "signalled")
-                QObject::connect(
-                    qobject_cast<QtInspectorWidget*>(widget), &QtInspectorWidget::settingsChanged, destroy);
-            if (doing == "told of a change" || doing == "signalled") {
-                driver.pick("Full output");
-                EXPECT_EQ(model->read<tiv::echo::esk::Data>(0).prop.load, tiv::echo::FULL_OUTPUT);
-            } else {
-                destroy();
+                driver.key(Qt::Key_Up);
+                driver.key(Qt::Key_Return);
+            },
+            true},
+        {"reset by key",
+            [](Driver& driver) {
+                driver.click("Loads", 0, Qt::ControlModifier);
+                driver.key(Qt::Key_Delete);
+            },
+            true},
+    };
+    for (const std::string victim : {"widget", "parent", "echo"})
+        for (const Case& one : cases)
+            for (const bool bySignal : {false, true}) {
+                SCOPED_TRACE(victim + ", " + one.doing);
+                auto table = tiv::echo::data::makeInternalData(EchoData::ESK, everyElement());
+                table->insertXMLData(json(R"("load":3)"));
+                auto window = std::make_unique<QWidget>();
+                QPointer<QWidget> widget = tiv::echo::data::makeInspector(table, window.get());
+                Driver driver(widget);
+                const auto model = table->model;
+                const auto destroy = [&] {
+                    if (victim == "widget") delete widget;
+                    if (victim == "parent") window.reset();
+                    if (victim == "echo") table.reset();
+                };
+                if (one.changes && bySignal)
+                    QObject::connect(qobject_cast<QtInspectorWidget*>(widget),
+                        &QtInspectorWidget::settingsChanged, destroy);
+                if (one.changes && !bySignal) model->onChange([&](const auto&) { destroy(); });
+                one.gesture(driver);
+                if (!one.changes) destroy();
+                settle();
+                EXPECT_EQ(
+                    model->read<tiv::echo::esk::Data>(0).prop.load != tiv::echo::FULL_OUTPUT, one.changes);
+                EXPECT_EQ(widget.isNull(), victim != "echo");
+                EXPECT_EQ(widget ? driver.rows().size() : 9, 9);
             }
-            settle();
-            EXPECT_EQ(widget.isNull(), victim != "echo");
-            EXPECT_EQ(widget ? driver.rows().size() : 9, 9);
-        }
 }
 
 QStringList values(const QWidget& inspector) {

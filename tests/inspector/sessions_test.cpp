@@ -44,6 +44,13 @@ void clickOutside() {
     QTest::mouseClick(host->driver->list()->window(), Qt::LeftButton, {}, {-9, -9});
 }
 
+// While the list is open, which is what the click meets.
+void clickAgain(const QString& label) {
+    auto* popup = host->driver->list()->window();
+    const QPoint cell = host->driver->view->viewport()->mapToGlobal(host->driver->cell(label, 1).center());
+    QTest::mouseClick(popup, Qt::LeftButton, {}, popup->mapFromGlobal(cell));
+}
+
 TEST(Inspector, KeepsToItsSessions) {
     const QRegularExpression value("=.*");
     playSessions(TIV_SESSIONS,
@@ -56,13 +63,16 @@ TEST(Inspector, KeepsToItsSessions) {
             {"name", [](const Words& w) { host->driver->click(w.all, 0); }},
             {"also", [](const Words& w) { host->driver->click(w.all, 0, Qt::ControlModifier); }},
             {"sign", [](const Words& w) { host->driver->click(w.all, 2); }},
-            {"menu", [](const Words& w) { host->driver->menu(w.all); }},
-            {"pick", [](const Words& w) { host->driver->pick(w.all); }},
+            {"menu", [](const Words& w) { EXPECT_TRUE(host->driver->menu(w.all)); }},
+            {"pick", [](const Words& w) { EXPECT_TRUE(host->driver->pick(w.all)); }},
             {"press", [](const Words& w) { press(w.all); }},
             {"type", [](const Words& w) { host->driver->type(w.all); }},
             {"outside", [](const Words&) { clickOutside(); }},
             {"hide", [](const Words&) { host->driver->list()->window()->hide(); }},
             {"speak", [](const Words& w) { speak(w.all == "de"); }},
+            {"again", [](const Words& w) { clickAgain(w.all); }},
+            {"leave", [](const Words&) { host->driver->widget->hide(); }},
+            {"return", [](const Words&) { host->driver->widget->show(); }},
             {"clipboard", [](const Words& w) { QApplication::clipboard()->setText(w.all); }},
         },
         {
@@ -80,6 +90,7 @@ TEST(Inspector, KeepsToItsSessions) {
                 }},
             {"copied", [](const Words&) { return QApplication::clipboard()->text(); }},
             {"tip", [](const Words& w) { return w.label + ": " + host->driver->tip(w.label); }},
+            {"disabled", [](const Words& w) { return host->driver->menu(w.all) ? "" : w.all; }},
             {"host", [](const Words&) { return QString::number(reachedHost); }},
         });
     host.reset();

@@ -1,5 +1,6 @@
 #include "properties/qt/src/editors.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QEvent>
 #include <QKeyEvent>
@@ -13,6 +14,14 @@
 #include <algorithm>
 
 namespace tiv::properties {
+namespace {
+
+bool isHeldReturn(const QEvent& keyPress) {
+    const auto& key = static_cast<const QKeyEvent&>(keyPress);
+    return key.isAutoRepeat() && (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter);
+}
+
+}  // namespace
 
 NamedValueEditor::NamedValueEditor(QWidget* parent, std::shared_ptr<const Property> property)
     : QFrame(parent, Qt::Popup), list_(new QListWidget(this)), property_(std::move(property)) {
@@ -25,6 +34,8 @@ NamedValueEditor::NamedValueEditor(QWidget* parent, std::shared_ptr<const Proper
     list_->setFrameShape(QFrame::NoFrame);
     list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     list_->setMouseTracking(true);  // what the mouse is over is marked
+    list_->installEventFilter(this);
+    parent->installEventFilter(this);
     setFocusProxy(list_);
     fill();
     connect(list_, &QListWidget::itemEntered, list_, [this](auto* entry) { list_->setCurrentItem(entry); });
@@ -50,19 +61,22 @@ void NamedValueEditor::fill() {
     list_->clear();
     for (const NamedValue& entry : **entries)
         (new QListWidgetItem(entry.text, list_))->setData(Qt::UserRole, entry.value);
+    static_cast<QAbstractItemView*>(list_)->setCurrentIndex({});  // else the focus makes it the first entry
     list_->setCurrentRow(marked);
 }
 
 void NamedValueEditor::choose(QListWidgetItem* entry) {
-    isChosen_ = entry->isSelected();  // where none is marked, the first is the current one all the same
-    if (isChosen_) value_ = entry->data(Qt::UserRole);
+    value_ = entry->data(Qt::UserRole);
+    isChosen_ = true;
     hide();
+    emit chosen();
 }
 
 // Below the cell, or above it where there is more room.
 void NamedValueEditor::placeAt(const QRect& cell) {
     cell_ = cell;
-    const QRect room = screen()->availableGeometry();
+    const QScreen* on = QGuiApplication::screenAt(cell.center());
+    const QRect room = (on ? on : screen())->availableGeometry();
     const int below = room.bottom() - cell.bottom();
     const int above = cell.top() - room.top();
     int width = list_->sizeHintForColumn(0) + 2 * frameWidth();
@@ -80,20 +94,39 @@ void NamedValueEditor::placeAt(const QRect& cell) {
         height);
 }
 
-void NamedValueEditor::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Escape) hide();
+// The list goes with its inspector, and a key that is held down since it opened the list confirms nothing.
+bool NamedValueEditor::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == list_) return event->type() == QEvent::KeyPress && isHeldReturn(*event);
+    if (event->type() == QEvent::Hide || event->type() == QEvent::EnabledChange) hide();
+    return false;
 }
 
-// A click outside closes the list and does there what it does, but for one into the list's own cell,
-// which would open it again.
+void NamedValueEditor::keyPressEvent(QKeyEvent* event) {
+    switch (event->key()) {
+        case Qt::Key_Escape:
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            hide();
+    }
+}
+
+// A click outside closes the list; where the platform says so, it then does there what it does, but not in
+// the list's own cell, which would open it again. The second click of a double click closes nothing.
 void NamedValueEditor::mousePressEvent(QMouseEvent* event) {
-    setAttribute(Qt::WA_NoMouseReplay, cell_.contains(event->globalPos()));
+    const bool inCell = cell_.contains(event->globalPos());
+    if (inCell && shown_.elapsed() < QApplication::doubleClickInterval()) return;
+    setAttribute(Qt::WA_NoMouseReplay, inCell);
     QFrame::mousePressEvent(event);
+}
+
+void NamedValueEditor::showEvent(QShowEvent* event) {
+    QFrame::showEvent(event);
+    shown_.start();
 }
 
 void NamedValueEditor::hideEvent(QHideEvent* event) {
     QFrame::hideEvent(event);
-    emit closed();
+    if (!isChosen_) emit cancelled();
 }
 
 void NamedValueEditor::changeEvent(QEvent* event) {

@@ -4,6 +4,7 @@
 
 #include "properties/nextgen/property.h"
 
+#include <QElapsedTimer>
 #include <QFrame>
 #include <QRect>
 #include <QString>
@@ -30,17 +31,18 @@ class NamedValueEditor : public QFrame {
 
     QVariant value() const { return value_; }
     void setValue(const QVariant& value);
-    // Whether value() is an entry that was picked, and not what it was set to.
-    bool isChosen() const { return isChosen_; }
     // Where the cell is on the screen.
     void placeAt(const QRect& cell);
 
  signals:
-    void closed();  // with or without a choice
+    void chosen();     // an entry was picked, and the list is closed; value() is its value
+    void cancelled();  // the list was closed without a choice
 
  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     void changeEvent(QEvent* event) override;
 
@@ -52,6 +54,7 @@ class NamedValueEditor : public QFrame {
     std::shared_ptr<const Property> property_;
     QVariant value_;
     QRect cell_;
+    QElapsedTimer shown_;
     bool isChosen_ = false;
 };
 

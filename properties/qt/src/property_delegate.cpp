@@ -46,17 +46,23 @@ QWidget* PropertyDelegate::createEditor(
     const auto property = static_cast<const RecordItemModel*>(index.model())->property(index);
     if (!property) return nullptr;
     QWidget* editor = factory_.create(parent, property);
-    if (auto* list = qobject_cast<NamedValueEditor*>(editor)) whenClosed(list);
+    if (auto* list = qobject_cast<NamedValueEditor*>(editor)) connectList(list, index);
     return editor;
 }
 
-// The list ends the editing itself, and the focus goes back to the table.
-void PropertyDelegate::whenClosed(NamedValueEditor* list) const {
+// A list ends the editing itself, and the focus goes back to the table. Its choice is told last of all: an
+// observer of the record may destroy the inspector, which the list, in the midst of a click, must outlive.
+void PropertyDelegate::connectList(NamedValueEditor* list, const QPersistentModelIndex& index) const {
     auto* self = const_cast<PropertyDelegate*>(this);
-    connect(list, &NamedValueEditor::closed, self, [self, list] {
-        if (list->isChosen()) emit self->commitData(list);
+    const auto end = [self, list] {
         emit self->closeEditor(list);
         self->view_->setFocus();
+    };
+    connect(list, &NamedValueEditor::cancelled, self, end);
+    connect(list, &NamedValueEditor::chosen, self, [self, list, index, end] {
+        end();
+        list->setParent(nullptr);
+        emit self->entered(index, list->value());
     });
 }
 
@@ -79,9 +85,14 @@ void PropertyDelegate::setEditorData(QWidget* editor, const QModelIndex& index) 
     QStyledItemDelegate::setEditorData(editor, index);
 }
 
+// Called by the view in the midst of its work.
 void PropertyDelegate::setModelData(
     QWidget* editor, QAbstractItemModel* /*model*/, const QModelIndex& index) const {
-    emit entered(index, editor->metaObject()->userProperty().read(editor));
+    const QVariant value = editor->metaObject()->userProperty().read(editor);
+    QMetaObject::invokeMethod(
+        const_cast<PropertyDelegate*>(this),
+        [this, row = QPersistentModelIndex(index), value] { emit entered(row, value); },
+        Qt::QueuedConnection);
 }
 
 void PropertyDelegate::paint(

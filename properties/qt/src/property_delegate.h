@@ -6,6 +6,7 @@
 #include <QFont>
 #include <QHash>
 #include <QPair>
+#include <QPersistentModelIndex>
 #include <QStaticText>
 #include <QStyledItemDelegate>
 
@@ -24,20 +25,21 @@ class PropertyDelegate : public QStyledItemDelegate {
         QWidget* editor, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
     // Hands it its label, too, for screen readers.
     void setEditorData(QWidget* editor, const QModelIndex& index) const override;
-    // Says what was entered. The record is not written here: that may destroy the editor's owner.
+    // Has `entered` said with the next event.
     void setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override;
     void paint(
         QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 
  signals:
+    // The record is to be written, which may destroy the view and this.
     void entered(const QModelIndex& index, const QVariant& value) const;
 
  protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-    void whenClosed(NamedValueEditor* list) const;
+    void connectList(NamedValueEditor* list, const QPersistentModelIndex& index) const;
     void paintLine(QPainter* painter, const QStyleOptionViewItem& cell, const QString& text) const;
 
     PropertyView* view_;

@@ -21,6 +21,7 @@ constexpr int valueColumn = RecordItemModel::ValueColumn;
 constexpr int resetColumn = RecordItemModel::ResetColumn;
 
 bool opensEditor(const QKeyEvent& event) {
+    if (event.isAutoRepeat()) return false;
     switch (event.key()) {
         case Qt::Key_Return:
         case Qt::Key_Enter:
@@ -154,7 +155,16 @@ void PropertyView::fitColumns() {
 
 void PropertyView::editRow(const QModelIndex& index) {
     const QModelIndex value = index.siblingAtColumn(valueColumn);
-    if (value.flags() & Qt::ItemIsEditable) edit(value);
+    if (value.flags() & Qt::ItemIsEditable && !isRowHidden(value.row(), {})) edit(value);
+}
+
+void PropertyView::leaveHiddenRow() {
+    if (!currentIndex().isValid() || !isRowHidden(currentIndex().row(), {})) return;
+    int row = 0;
+    while (row < model()->rowCount() &&
+           (isRowHidden(row, {}) || !(model()->index(row, valueColumn).flags() & Qt::ItemIsSelectable)))
+        ++row;
+    setCurrentIndex(model()->index(row, valueColumn));
 }
 
 void PropertyView::keyPressEvent(QKeyEvent* event) {

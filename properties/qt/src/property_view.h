@@ -27,6 +27,8 @@ class PropertyView : public QTreeView {
     int widthOf(const QString& text) const;
     // Opens the editor of the row.
     void editRow(const QModelIndex& index);
+    // Makes the first visible row the current one, if the current one is hidden.
+    void leaveHiddenRow();
 
  signals:
     void resetRequested();

@@ -110,20 +110,18 @@ void QtInspectorWidget::onClicked(const QModelIndex& index) {
         return;  // selects rows
     const auto property = rows_->property(index);
     if (!property) return;
-    if (index.column() == RecordItemModel::ResetColumn)
-        reset({property});
-    else
-        view_->editRow(index);
+    if (index.column() != RecordItemModel::ResetColumn) return view_->editRow(index);
+    // With the next event: an observer of the record may destroy the view, which is in the midst of a click.
+    QMetaObject::invokeMethod(
+        this, [this, property] { reset({property}); }, Qt::QueuedConnection);
 }
 
-// Written with the next event, when the editor and the mouse have done with us: an observer of the record
-// may destroy the inspector.
 void QtInspectorWidget::onEntered(const QModelIndex& index, const QVariant& value) {
     const auto property = rows_->property(index);
+    if (!property) return;  // its row has gone
     auto targets = selectedProperties();
     if (std::find(targets.begin(), targets.end(), property) == targets.end()) targets = {property};
-    QMetaObject::invokeMethod(
-        this, [this, targets, value] { choose(targets, value); }, Qt::QueuedConnection);
+    choose(targets, value);
 }
 
 // With `onlyAsk`, says whether the key would do something here; otherwise it is the host's.
@@ -144,16 +142,26 @@ bool QtInspectorWidget::onKey(const QKeyEvent& event, bool onlyAsk) {
     return false;
 }
 
+// In the filter bar, where Return and Escape are not the host's, either.
+bool QtInspectorWidget::onFilterKey(const QKeyEvent& event, bool onlyAsk) {
+    switch (event.key()) {
+        case Qt::Key_Escape:
+            if (!onlyAsk) query_->text().isEmpty() ? hideFilter() : query_->clear();
+            return true;
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            if (!onlyAsk) view_->setFocus();
+            return true;
+        default:
+            return false;
+    }
+}
+
 bool QtInspectorWidget::eventFilter(QObject* watched, QEvent* event) {
     const bool asks = event->type() == QEvent::ShortcutOverride;
     if (!asks && event->type() != QEvent::KeyPress) return false;
     auto* key = static_cast<QKeyEvent*>(event);
-    if (watched == query_) {
-        if (asks || key->key() != Qt::Key_Escape) return false;
-        query_->text().isEmpty() ? hideFilter() : query_->clear();
-        return true;
-    }
-    if (watched != view_ || !onKey(*key, asks)) return false;
+    if (!(watched == view_ ? onKey(*key, asks) : onFilterKey(*key, asks))) return false;
     event->accept();
     return true;
 }
@@ -267,15 +275,19 @@ void QtInspectorWidget::apply(const std::vector<PropertyValue>& wanted) {
 // What a screen reader reads out after a gesture of the engineer.
 void QtInspectorWidget::announce(const std::vector<PropertyValue>& values) {
     if (!QAccessible::isActive()) return;
-    QAccessibleInterface* table = QAccessible::queryAccessibleInterface(view_);
+    QAccessibleTableInterface* table = QAccessible::queryAccessibleInterface(view_)->tableInterface();
+    int visible = 0;  // rows before this one: no others have cells
     for (int row = 0; row < rows_->rowCount(); ++row) {
+        if (view_->isRowHidden(row, {})) continue;
         const QModelIndex index = rows_->index(row, RecordItemModel::ValueColumn);
         const auto property = rows_->property(index);
         const auto isRow = [&](const PropertyValue& value) { return value.property == property; };
-        if (std::none_of(values.begin(), values.end(), isRow)) continue;
-        QAccessibleValueChangeEvent event(
-            table->tableInterface()->cellAt(row, RecordItemModel::ValueColumn), index.data());
-        QAccessible::updateAccessibility(&event);
+        if (std::any_of(values.begin(), values.end(), isRow)) {
+            QAccessibleValueChangeEvent event(
+                table->cellAt(visible, RecordItemModel::ValueColumn), index.data());
+            QAccessible::updateAccessibility(&event);
+        }
+        ++visible;
     }
 }
 
@@ -367,8 +379,9 @@ void QtInspectorWidget::showFilter() {
         layout->addWidget(query_);
         layout->addWidget(changedOnly_);
         static_cast<QVBoxLayout*>(this->layout())->insertWidget(0, filterBar_);
+        changedOnly_->installEventFilter(this);
+        setTabOrder(view_->previousInFocusChain(), query_);
         setTabOrder(query_, changedOnly_);
-        setTabOrder(changedOnly_, view_);
         connect(query_, &QLineEdit::textChanged, this, &QtInspectorWidget::filterRows);
         connect(changedOnly_, &QCheckBox::toggled, this, &QtInspectorWidget::filterRows);
         filterRows();
@@ -404,6 +417,7 @@ void QtInspectorWidget::filterRows() {
             if (found && heading >= 0) view_->setRowHidden(heading, {}, false);
             if (isHeading) heading = row;
         }
+        view_->leaveHiddenRow();
     }
     updatePlaceholder();
 }

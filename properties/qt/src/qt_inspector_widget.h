@@ -65,6 +65,7 @@ class QtInspectorWidget : public QWidget {
     void onEntered(const QModelIndex& index, const QVariant& value);
     void onRecordChanged();
     bool onKey(const QKeyEvent& event, bool onlyAsk);
+    bool onFilterKey(const QKeyEvent& event, bool onlyAsk);
     void showMenu(const QPoint& position);
     void addLevelMenu(QMenu& menu, const std::vector<std::shared_ptr<const Property>>& targets);
 

@@ -167,8 +167,6 @@ QVariant RecordItemModel::cell(const QModelIndex& index, const Property& propert
                 .arg(valueText(property, defaultValue(property)));
         case ChangedRole:
             return changed;
-        case OfferedRole:
-            return !value.isValid() || isOffered(property, value);
         case SearchRole: {
             const auto* keyword = property.configuration.get<QString>("inspector.keyword");
             return QStringList{label(*properties_, property),

@@ -20,7 +20,6 @@ class RecordItemModel : public QAbstractTableModel {
     enum Column { LabelColumn, ValueColumn, ResetColumn, ColumnCount };
     enum Role {
         ChangedRole = Qt::UserRole,  // bool: the value is not the schema's default
-        OfferedRole,                 // bool: a list offers the value, or there is no list
         SearchRole,                  // all that a filter finds the row by
     };
 

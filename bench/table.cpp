@@ -68,7 +68,9 @@ std::vector<Operation> tableOperations() {
         {"getTELINP, 15 lines", writes(allOptions, false, "C")},
         {"getTELINP, 15 lines, German catalogue", writes(allOptions, false, "de")},
         {"getTELINP, no line", writes("CgAA", false, "C")},
+        {"getTELINP, no line, German catalogue", writes("CgAA", false, "de")},
         {"getTELINP, all options at once", writes(allOptions, true, "C")},
+        {"getTELINP, all options at once, German catalogue", writes(allOptions, true, "de")},
     };
     const QStringList programs = tiv::tool::programNames();
     for (int type = 0; type < programs.size(); ++type)

@@ -19,20 +19,25 @@ _echotable_levels() { # <tool> <program> <key>
         $1 == "prop." key { print substr($0, from, width) }'
 }
 
+_echotable_verb() { # the one or two words of the verb
+    echo "${COMP_WORDS[1]}"
+    [ "${COMP_WORDS[1]}" != project ] || echo "${COMP_WORDS[2]}"
+}
+
 _echotable_choices() { # <tool>: for the word at COMP_CWORD; none where a file is meant
     local tool=$1 verb=${COMP_WORDS[1]} previous=${COMP_WORDS[COMP_CWORD - 1]}
     case $previous:${COMP_WORDS[COMP_CWORD]} in
         --settings:* | --output:* | --project:*) return ;;
         --language:*) echo de en ;;
         --elements:*) echo all none quads brics beams cables springs ;;
-        *:-*) "$tool" "${COMP_WORDS[@]:1:COMP_CWORD-1}" --help | grep -oE -- ' --[a-z-]+' ;;
+        *:-*) "$tool" $(_echotable_verb) --help | grep -oE -- ' --[a-z-]+' ;;
         *:=) _echotable_levels "$tool" "${COMP_WORDS[2]}" "$previous" ;;
         =:*) _echotable_levels "$tool" "${COMP_WORDS[2]}" "${COMP_WORDS[COMP_CWORD - 2]}" ;;
         *) case $COMP_CWORD:$verb in
             1:*) _echotable_verbs "$tool" ;;
             2:show | 2:set | 2:telinp | 2:edit) _echotable_programs "$tool" ;;
             2:project) _echotable_verbs "$tool" project ;;
-            5:project) _echotable_programs "$tool" ;;
+            5:project) [ "${COMP_WORDS[2]}" != store ] || _echotable_programs "$tool" ;;
             *:set) _echotable_keys "$tool" "${COMP_WORDS[2]}" ;;
             esac ;;
     esac

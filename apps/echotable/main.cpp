@@ -9,8 +9,8 @@
 #include <QScopeGuard>
 
 #include <algorithm>
+#include <cstdlib>
 #include <memory>
-#include <string_view>
 #include <vector>
 
 #if defined(Q_OS_WIN)
@@ -87,25 +87,35 @@ void checkCount(const QStringList& given, const QStringList& expected) {
 }
 
 QString unknownVerb(const QStringList& words) {
-    QStringList names;
-    for (const Verb& verb : allVerbs()) names += verb.name;
+    QStringList names, begun;
+    for (const Verb& verb : allVerbs()) {
+        names += verb.name;
+        if (verb.name.section(QLatin1Char(' '), 0, 0) == words.value(0)) begun += verb.name;
+    }
+    if (!begun.isEmpty() && words.size() == 1) return QStringLiteral("expected ") + choices(begun);
     const QString problem = words.isEmpty() ? QStringLiteral("VERB is missing")
                                             : QStringLiteral("unknown verb \"%1\"").arg(words.front());
     return problem + QStringLiteral(", expected ") + choices(names);
 }
 
-// `verb` is the one that the words begin with, or null.
-void run(const Verb* verb, const QStringList& words) {
-    QCommandLineParser parser;
+// `verb` is the one that the words begin with, or null. Whether the parser understood the rest of them.
+bool parse(QCommandLineParser& parser, const Verb* verb, const QStringList& words) {
     parser.addOptions({helpOption(), versionOption()});
     if (verb) parser.addOptions(verb->options);
     const int skipped = verb ? verb->name.count(QLatin1Char(' ')) + 1 : 0;
-    const bool understood = parser.parse(QStringList(QStringLiteral("echotable")) + words.mid(skipped));
+    return parser.parse(QStringList(QStringLiteral("echotable")) + words.mid(skipped));
+}
 
+void run(const Verb* verb, const QStringList& words) {
+    QCommandLineParser parser;
+    const bool understood = parse(parser, verb, words);
     if (parser.isSet(helpOption())) return print(verb ? helpOf(*verb, parser) : generalHelp());
     if (parser.isSet(versionOption())) return print(QStringLiteral("echotable " TIV_VERSION "\n"));
     if (!verb) throw UsageError(unknownVerb(words));
     if (!understood) throw UsageError(parser.errorText().chopped(1));  // the full stop
+    for (const QString& word : words)
+        if (word.contains(QChar::ReplacementCharacter))  // another file's name could read the same
+            throw UsageError(QStringLiteral("\"%1\" is not in the encoding of the locale").arg(word));
     checkCount(parser.positionalArguments(), verb->arguments);
     verb->run(parser);
 }
@@ -127,20 +137,29 @@ int exitCodeOf(const QStringList& words) {
 }
 
 // Only the window of `edit` needs a display; everything else, its help included, works without one.
-bool opensWindow(const std::vector<std::string_view>& words) {
-    const auto answered = {"-h", "--help", "-v", "--version"};
-    return !words.empty() && words.front() == "edit" &&
-           std::find_first_of(words.begin(), words.end(), answered.begin(), answered.end()) == words.end();
+bool opensWindow(const QStringList& words) {
+    const QList<Verb> verbs = allVerbs();
+    const Verb* verb = findVerb(verbs, words);
+    QCommandLineParser parser;
+    return verb && verb->name == edit().name && parse(parser, verb, words) && !parser.isSet(helpOption()) &&
+           !parser.isSet(versionOption());
 }
 
-// Where Qt would end the program instead of saying so in one line.
-bool lacksDisplay() {
-#if defined(Q_OS_UNIX) && !defined(Q_OS_MACOS)
-    const auto isEmpty = [](const char* name) { return qEnvironmentVariableIsEmpty(name); };
-    return isEmpty("DISPLAY") && isEmpty("WAYLAND_DISPLAY") && isEmpty("QT_QPA_PLATFORM");
-#else
-    return false;
-#endif
+// Without a display Qt says so in many lines, and aborts.
+void onQtMessage(QtMsgType type, const QMessageLogContext& /*context*/, const QString& /*text*/) {
+    if (type != QtFatalMsg) return;
+    complain(QStringLiteral("edit needs a display"));
+    std::_Exit(WrongInput);
+}
+
+std::unique_ptr<QCoreApplication> makeApplication(int& argc, char** argv) {
+    QStringList words;
+    for (int i = 1; i < argc; ++i) words += QString::fromLocal8Bit(argv[i]);
+    if (!opensWindow(words)) return std::make_unique<QCoreApplication>(argc, argv);
+    const auto handler = qInstallMessageHandler(onQtMessage);
+    auto application = std::make_unique<QApplication>(argc, argv);
+    qInstallMessageHandler(handler);
+    return application;
 }
 
 // A console of Windows shows bytes in its own code page: until the result is destroyed, in UTF-8.
@@ -164,12 +183,6 @@ int main(int argc, char** argv) {
                      QString::fromUtf8(report.source.data(), static_cast<int>(report.source.size())))
                  .arg(report.line));
     });
-    const bool window = opensWindow({argv + 1, argv + argc});
-    if (window && lacksDisplay()) {
-        complain(QStringLiteral("edit needs a display"));
-        return WrongInput;
-    }
-    const std::unique_ptr<QCoreApplication> application(
-        window ? new QApplication(argc, argv) : new QCoreApplication(argc, argv));
+    const auto application = makeApplication(argc, argv);
     return exitCodeOf(QCoreApplication::arguments().mid(1));
 }

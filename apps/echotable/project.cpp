@@ -5,9 +5,11 @@
 #include "apps/echotable/text.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonObject>
 
+#include <algorithm>
 #include <utility>
 
 namespace tiv::tool {
@@ -98,7 +100,10 @@ void info(const QCommandLineParser& arguments) {
 
 void store(const QCommandLineParser& arguments) {
     const QString name = arguments.positionalArguments().at(1);
+    const auto isControl = [](QChar c) { return c.category() == QChar::Other_Control; };
     if (name.trimmed().isEmpty()) throw UsageError(QStringLiteral("expected a name for the task, got none"));
+    if (std::any_of(name.begin(), name.end(), isControl))
+        throw UsageError(QStringLiteral("expected a name for the task without control characters"));
     const Project project(openProject(fileName(arguments)));
     const auto table = makeTable(arguments.positionalArguments().at(2), project);
     if (arguments.isSet(settingsOption())) readSettings(*table, arguments.value(settingsOption()));
@@ -109,6 +114,8 @@ void store(const QCommandLineParser& arguments) {
 void load(const QCommandLineParser& arguments) {
     const QString name = arguments.positionalArguments().at(1);
     const Project project(openProject(fileName(arguments)));
+    if (QFileInfo(arguments.value(outputOption())) == QFileInfo(fileName(arguments)))
+        throw UsageError(QStringLiteral("--output is the project itself"));
     QStringList names;
     for (const dbo::Task& task : dbo::tasks(project.handle)) {
         if (task.name == name.toStdString())

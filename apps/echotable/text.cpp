@@ -20,6 +20,29 @@ QString inputName(const QString& file) {
     return file == standardStream ? QStringLiteral("standard input") : file;
 }
 
+namespace {
+
+constexpr int longest = 64 << 20;  // bytes of a settings text
+
+// All of a text that is not too long.
+QByteArray start(QFile& file) {
+    QByteArray bytes;
+    while (bytes.size() <= longest) {
+        const QByteArray more = file.read(longest + 1 - bytes.size());
+        if (more.isEmpty()) break;
+        bytes += more;
+    }
+    return bytes;
+}
+
+// A name of the system, which may lead to any file: "/dev/stdout".
+bool isDevice(const QFileInfo& file) {
+    const QString path = file.absoluteFilePath();
+    return path.startsWith(QLatin1String("/dev/")) || path.startsWith(QLatin1String("/proc/"));
+}
+
+}  // namespace
+
 QString readText(const QString& name) {
     const bool piped = name == standardStream;
     const QFileInfo present(name);
@@ -27,13 +50,14 @@ QString readText(const QString& name) {
     if (!piped && present.isDir()) throw failure(name, QStringLiteral("not a file"));
     QFile file(name);
     const bool open = piped ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
-    const QByteArray bytes = open ? file.readAll() : QByteArray();
+    const QByteArray bytes = open ? start(file) : QByteArray();
     bool failed = file.error() != QFileDevice::NoError;
 #if defined(Q_OS_WIN)
     // Qt takes the end of a pipe for an error; elsewhere it leaves one behind in stdin while it waits.
     if (piped) failed = !open || std::ferror(stdin) != 0;
 #endif
     if (failed) throw failure(inputName(name), file.errorString());
+    if (bytes.size() > longest) throw failure(inputName(name), QStringLiteral("longer than 64 MiB"));
     QString text = QTextCodec::codecForUtfText(bytes, QTextCodec::codecForName("UTF-8"))->toUnicode(bytes);
     return text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
 }
@@ -41,7 +65,7 @@ QString readText(const QString& name) {
 void writeText(const QString& name, const QString& text) {
     if (name == standardStream) return print(text);
     const QFileInfo present(name);
-    if (present.exists() && !present.isFile())  // a device, say, would be replaced as well
+    if (present.exists() && (!present.isFile() || isDevice(present)))  // it would be replaced as well
         throw failure(name, QStringLiteral("not a file"));
     if (!present.dir().exists()) throw failure(name, QStringLiteral("no such folder"));
     QSaveFile file(name);
@@ -59,7 +83,8 @@ void print(const QString& text) {
 }
 
 void complain(const QString& text) {
-    std::fprintf(stderr, "echotable: %s\n", text.toUtf8().constData());
+    const QString line = QString(text).replace(QLatin1Char('\n'), QLatin1String("\\n"));
+    std::fprintf(stderr, "echotable: %s\n", line.toUtf8().constData());
 }
 
 void warn(const QString& text) {

@@ -88,8 +88,10 @@ std::filesystem::path fileOf(const std::string& path) {
 }
 
 Project connect(const std::string& path, int flags) {
+    // SQLite may be built to read "file:x?mode=memory" as an address.
+    const std::string name = path.starts_with("file:") ? "./" + path : path;
     sqlite3* connection = nullptr;
-    const int result = sqlite3_open_v2(path.c_str(), &connection, flags, nullptr);
+    const int result = sqlite3_open_v2(name.c_str(), &connection, flags, nullptr);
     Project project{path, std::unique_ptr<sqlite3, Release>(connection), nullptr};
     check(project, result);
     check(project, sqlite3_busy_timeout(connection, 500));

@@ -121,7 +121,8 @@ TEST_F(EchotableTool, ReportsAFullDeviceAndAMissingDisplay) {
     if (!QFile::exists("/dev/full")) GTEST_SKIP() << "not this system";
     EXPECT_EQ(
         run("programs", {}, "/dev/full"), "! echotable: standard output: No space left on device\n? 1\n");
-    EXPECT_EQ(run("edit esk --settings S"), "! echotable: edit needs a display\n? 1\n");
+    for (const char* edit : {"edit esk --settings S", "edit esk --settings --help"})
+        EXPECT_EQ(run(edit), "! echotable: edit needs a display\n? 1\n");
 }
 
 TEST_F(EchotableTool, ExplainsEveryVerbAndTheManPageKnowsItAll) {

@@ -17,6 +17,8 @@ echotable telinp plax2 --language e|en
 echotable set --settings |
 echotable show q|qsx.bruc qsx.riss qsx.elpl
 echotable project store house.tiv static v|vibr
+echotable project create house.tiv --quads 1|
+echotable project info -- -|--help --version --json
 echotable set esk l|load= lsum= line=
 echotable set 10 sp|spri=
 echotable set esk load =|default no normal full extensive

@@ -94,6 +94,7 @@ TEST(Inspector, KeepsToItsSessions) {
             {"host", [](const Words&) { return QString::number(reachedHost); }},
         });
     host.reset();
+    QTest::qWait(50);  // animations of the filter see that it is gone
 }
 
 }  // namespace

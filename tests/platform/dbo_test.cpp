@@ -3,6 +3,7 @@
 #include "support/failure.h"
 #include "support/reports.h"
 
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -95,6 +96,16 @@ TEST_F(Project, keepsElementsAndTasksInOrderAndByteForByte) {
     EXPECT_EQ(refusal(ElementKind::Springs, 1), "Elements to add: 1 more would pass 2147483647 of a kind.");
     EXPECT_EQ(contentOf(again), "+5 -0 +1 +7 +2147483647 [b|4|" + odd + "][" + odd + "|-1|" + odd + "]");
 }
+
+#if !defined(_WIN32)  // where no file may have such a name
+TEST_F(Project, mayHaveAnAddressForItsName) {
+    const std::string name = "file:x?mode=memory";
+    QDir::setCurrent(folder.path());
+    closeProject(createProject(name));
+    QDir::setCurrent("/");
+    EXPECT_TRUE(std::filesystem::exists(file(name.c_str())));
+}
+#endif
 
 TEST_F(Project, lockedByAnotherProgramSaysSoAndStaysAsItIs) {
     auto other = execute(path, "BEGIN EXCLUSIVE");

@@ -7,6 +7,7 @@
 #include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
+#include <QThread>
 
 #include <gtest/gtest.h>
 
@@ -36,7 +37,7 @@ class EchotableTool : public testing::Test {
             [](QProcess::CreateProcessArguments* start) { start->flags |= 8; });  // DETACHED_PROCESS
 #endif
         process.start(TIV_ECHOTABLE, QProcess::splitCommand(arguments));
-        if (!input.isEmpty()) process.waitForReadyRead(50);  // the tool waits for its input
+        if (!input.isEmpty()) QThread::msleep(50);  // the tool waits for its input
         process.write(input);
         process.closeWriteChannel();
         EXPECT_TRUE(process.waitForFinished()) << process.errorString().toStdString();

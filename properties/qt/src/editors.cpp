@@ -66,6 +66,7 @@ void NamedValueEditor::fill() {
 }
 
 void NamedValueEditor::choose(QListWidgetItem* entry) {
+    if (isChosen_) return;  // in some styles a click activates, too
     value_ = entry->data(Qt::UserRole);
     isChosen_ = true;
     hide();

@@ -4,7 +4,8 @@
 #include "properties/qt/inc/nextgen/from_bond.h"
 #include "tiv/smartassert/smart_assert.h"
 
-#include <array>
+#include <QStringList>
+
 #include <string>
 
 namespace tiv::echo::data {
@@ -25,9 +26,9 @@ QString bothKeywords(int option) {
 
 // One text for all tables, which share it.
 const QString& keywords(int option) {
-    static const auto all = [] {
-        std::array<QString, optionCount> texts;
-        for (int i = 0; i < optionCount; ++i) texts[i] = bothKeywords(i);
+    static const QStringList all = [] {
+        QStringList texts;
+        for (int i = 0; i < optionCount; ++i) texts << bothKeywords(i);
         return texts;
     }();
     return all[option];

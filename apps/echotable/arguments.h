@@ -29,6 +29,10 @@ struct Verb {
     QList<QCommandLineOption> options;
     // Throws UsageError, or std::exception "<file>: <what went wrong>".
     void (*run)(const QCommandLineParser& arguments);
+    // What comes behind that in a window, which needs a display; null: nothing.
+    void (*window)(const QCommandLineParser& arguments) = nullptr;
+
+    using Step = void (*Verb::*)(const QCommandLineParser& arguments);
 };
 
 Verb programs();

@@ -13,14 +13,23 @@
 namespace tiv::tool {
 namespace {
 
-void run(const QCommandLineParser& arguments) {
+std::shared_ptr<Table> tableToEdit(const QCommandLineParser& arguments) {
     const QString file = arguments.value(settingsOption());
     if (file.isEmpty() || file == standardStream)
         throw UsageError(QStringLiteral("expected --settings with the name of a file"));
     const auto table = makeTable(arguments.positionalArguments().constFirst(), projectOf(arguments));
     requireOptions(*table);
     if (QFile::exists(file)) readSettings(*table, file);
+    return table;
+}
 
+void check(const QCommandLineParser& arguments) {
+    tableToEdit(arguments);
+}
+
+void open(const QCommandLineParser& arguments) {
+    const auto table = tableToEdit(arguments);
+    const QString file = arguments.value(settingsOption());
     QDialog window;
     window.setWindowTitle(QStringLiteral("%1 - %2").arg(
         QFileInfo(file).fileName(), programName(static_cast<int>(table->programType))));
@@ -49,7 +58,8 @@ Verb edit() {
         {QStringLiteral("PROGRAM")},
         QStringLiteral("Opens a settings file, new or not, in the property inspector; OK saves it."),
         {settingsOption(), projectOption(), elementsOption()},
-        &run};
+        &check,
+        &open};
 }
 
 }  // namespace tiv::tool

@@ -10,7 +10,6 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <memory>
 #include <vector>
 
 #if defined(Q_OS_WIN)
@@ -87,15 +86,17 @@ void checkCount(const QStringList& given, const QStringList& expected) {
 }
 
 QString unknownVerb(const QStringList& words) {
-    QStringList names, begun;
+    QStringList all, begun;  // of two words, the first of which was given
     for (const Verb& verb : allVerbs()) {
-        names += verb.name;
-        if (verb.name.section(QLatin1Char(' '), 0, 0) == words.value(0)) begun += verb.name;
+        all += verb.name;
+        if (verb.name.startsWith(words.value(0) + QLatin1Char(' '))) begun += verb.name;
     }
-    if (!begun.isEmpty() && words.size() == 1) return QStringLiteral("expected ") + choices(begun);
-    const QString problem = words.isEmpty() ? QStringLiteral("VERB is missing")
-                                            : QStringLiteral("unknown verb \"%1\"").arg(words.front());
-    return problem + QStringLiteral(", expected ") + choices(names);
+    const int given = begun.isEmpty() ? 1 : 2;
+    const QString problem =
+        words.size() < given
+            ? QStringLiteral("VERB is missing")
+            : QStringLiteral("unknown verb \"%1\"").arg(words.mid(0, given).join(QLatin1Char(' ')));
+    return problem + QStringLiteral(", expected ") + choices(begun.isEmpty() ? all : begun);
 }
 
 // `verb` is the one that the words begin with, or null. Whether the parser understood the rest of them.
@@ -106,7 +107,7 @@ bool parse(QCommandLineParser& parser, const Verb* verb, const QStringList& word
     return parser.parse(QStringList(QStringLiteral("echotable")) + words.mid(skipped));
 }
 
-void run(const Verb* verb, const QStringList& words) {
+void run(const Verb* verb, const QStringList& words, Verb::Step step) {
     QCommandLineParser parser;
     const bool understood = parse(parser, verb, words);
     if (parser.isSet(helpOption())) return print(verb ? helpOf(*verb, parser) : generalHelp());
@@ -115,16 +116,16 @@ void run(const Verb* verb, const QStringList& words) {
     if (!understood) throw UsageError(parser.errorText().chopped(1));  // the full stop
     for (const QString& word : words)
         if (word.contains(QChar::ReplacementCharacter))  // another file's name could read the same
-            throw UsageError(QStringLiteral("\"%1\" is not in the encoding of the locale").arg(word));
+            throw UsageError(QStringLiteral("a character of \"%1\" cannot be read").arg(word));
     checkCount(parser.positionalArguments(), verb->arguments);
-    verb->run(parser);
+    (verb->*step)(parser);
 }
 
-int exitCodeOf(const QStringList& words) {
+int exitCodeOf(const QStringList& words, Verb::Step step) {
     const QList<Verb> verbs = allVerbs();
     const Verb* verb = findVerb(verbs, words);
     try {
-        run(verb, words);
+        run(verb, words, step);
         return Done;
     } catch (const UsageError& problem) {
         const QString name = verb ? verb->name + QLatin1Char(' ') : QString();
@@ -136,12 +137,11 @@ int exitCodeOf(const QStringList& words) {
     }
 }
 
-// Only the window of `edit` needs a display; everything else, its help included, works without one.
 bool opensWindow(const QStringList& words) {
     const QList<Verb> verbs = allVerbs();
     const Verb* verb = findVerb(verbs, words);
     QCommandLineParser parser;
-    return verb && verb->name == edit().name && parse(parser, verb, words) && !parser.isSet(helpOption()) &&
+    return verb && verb->window && parse(parser, verb, words) && !parser.isSet(helpOption()) &&
            !parser.isSet(versionOption());
 }
 
@@ -150,16 +150,6 @@ void onQtMessage(QtMsgType type, const QMessageLogContext& /*context*/, const QS
     if (type != QtFatalMsg) return;
     complain(QStringLiteral("edit needs a display"));
     std::_Exit(WrongInput);
-}
-
-std::unique_ptr<QCoreApplication> makeApplication(int& argc, char** argv) {
-    QStringList words;
-    for (int i = 1; i < argc; ++i) words += QString::fromLocal8Bit(argv[i]);
-    if (!opensWindow(words)) return std::make_unique<QCoreApplication>(argc, argv);
-    const auto handler = qInstallMessageHandler(onQtMessage);
-    auto application = std::make_unique<QApplication>(argc, argv);
-    qInstallMessageHandler(handler);
-    return application;
 }
 
 // A console of Windows shows bytes in its own code page: until the result is destroyed, in UTF-8.
@@ -183,6 +173,16 @@ int main(int argc, char** argv) {
                      QString::fromUtf8(report.source.data(), static_cast<int>(report.source.size())))
                  .arg(report.line));
     });
-    const auto application = makeApplication(argc, argv);
-    return exitCodeOf(QCoreApplication::arguments().mid(1));
+    QStringList words;
+    int code = Done;
+    {
+        const QCoreApplication withoutDisplay(argc, argv);
+        words = QCoreApplication::arguments().mid(1);
+        code = exitCodeOf(words, &Verb::run);
+    }
+    if (code != Done || !opensWindow(words)) return code;
+    const auto handler = qInstallMessageHandler(onQtMessage);
+    const QApplication application(argc, argv);
+    qInstallMessageHandler(handler);
+    return exitCodeOf(words, &Verb::window);
 }

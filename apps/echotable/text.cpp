@@ -35,10 +35,13 @@ QByteArray start(QFile& file) {
     return bytes;
 }
 
-// A name of the system, which may lead to any file: "/dev/stdout".
-bool isDevice(const QFileInfo& file) {
-    const QString path = file.absoluteFilePath();
-    return path.startsWith(QLatin1String("/dev/")) || path.startsWith(QLatin1String("/proc/"));
+// Whether the name leads to a file by a link of the system, as "/dev/stdout" does.
+bool isRedirected(QFileInfo file) {
+    for (; file.isSymLink(); file.setFile(file.symLinkTarget())) {
+        const QString path = file.absoluteFilePath();
+        if (path.startsWith(QLatin1String("/dev/")) || path.startsWith(QLatin1String("/proc/"))) return true;
+    }
+    return false;
 }
 
 }  // namespace
@@ -65,7 +68,7 @@ QString readText(const QString& name) {
 void writeText(const QString& name, const QString& text) {
     if (name == standardStream) return print(text);
     const QFileInfo present(name);
-    if (present.exists() && (!present.isFile() || isDevice(present)))  // it would be replaced as well
+    if (present.exists() && (!present.isFile() || isRedirected(present)))  // it would be replaced as well
         throw failure(name, QStringLiteral("not a file"));
     if (!present.dir().exists()) throw failure(name, QStringLiteral("no such folder"));
     QSaveFile file(name);

@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # Cross-builds for 64-bit Windows what the project needs, from Debian's sources: Qt, Boost.Locale, SQLite and
 # GoogleTest. They come into one prefix in a cache folder, a new one when this script or a version changes;
-# <link> is made to name it. A step that is done leaves a stamp and is not done again. Takes 25 minutes on
-# one core, most of them for Qt.
+# <link> is made to name it. A step that is done leaves a stamp and is not done again. Takes half an
+# hour on two cores, most of it for Qt.
 #
 #   dependencies.sh <link>
 set -euo pipefail

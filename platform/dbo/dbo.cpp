@@ -147,9 +147,12 @@ bool hasSprings(int database, int* count) {
 
 int createProject(const std::string& path) {
     std::error_code ignored;
-    if (path.empty()) refuse(path, "no file name");  // SQLite would make a temporary database
+    // SQLite would make a temporary database of none, and leave out what ends a name.
+    if (fileOf(path).filename().empty() || path.find('\0') != std::string::npos) refuse(path, "no file name");
     if (path != temporary && std::filesystem::exists(fileOf(path), ignored)) refuse(path, "already exists");
     Project project = connect(path, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
+    // SQLite may find a file where the system finds none: in "nowhere/..".
+    if (numberOf(project, "PRAGMA page_count") != 0) refuse(path, "already exists");
     try {
         writeEmptyProject(project);
     } catch (...) {

@@ -120,6 +120,10 @@ TEST_F(EchotableTool, ReadsSettingsAsEditorsSaveThem) {
 
 TEST_F(EchotableTool, ReportsAFullDeviceAndAMissingDisplay) {
     if (!QFile::exists("/dev/full")) GTEST_SKIP() << "not this system";
+    write("log", "kept");
+    EXPECT_EQ(run("set esk --output /dev/stdout", {}, folder.filePath("log")),
+        "! echotable: /dev/stdout: not a file\n? 1\n");
+    EXPECT_EQ(run("show esk --settings /dev/zero"), "! echotable: /dev/zero: longer than 64 MiB\n? 1\n");
     EXPECT_EQ(
         run("programs", {}, "/dev/full"), "! echotable: standard output: No space left on device\n? 1\n");
     for (const char* edit : {"edit esk --settings S", "edit esk --settings --help"})

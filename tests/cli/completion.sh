@@ -2,6 +2,7 @@
 # completion.sh TOOL SCRIPT: what bash offers after each line, which stands as bash splits it.
 # shellcheck source=/dev/null
 source "$2"
+unset LANGUAGE
 failed=0
 while IFS='|' read -r line expected; do
     read -ra COMP_WORDS <<<"$line"
@@ -17,7 +18,7 @@ echotable telinp plax2 --language e|en
 echotable set --settings |
 echotable show q|qsx.bruc qsx.riss qsx.elpl
 echotable project store house.tiv static v|vibr
-echotable project create house.tiv --quads 1|
+echotable project create house.tiv --quads |
 echotable project info -- -|--help --version --json
 echotable set esk l|load= lsum= line=
 echotable set 10 sp|spri=

@@ -53,6 +53,11 @@ TEST(EveryProgram, WritesTheLinesOfItsTableForAllLevelsElementsAndLanguages) {
             EchoData echo(EchoData::ProgrammTypes(type), project.handle);
             EchoData loaded(EchoData::ProgrammTypes(type), project.handle);
             EXPECT_EQ(echo.getXMLData(), "CgAA\n");
+            std::vector<std::string> visible;
+            for (const ExpectedOption& o : options)  // esk shows a key that is nobody's
+                if (project.has(o.needs))
+                    visible.push_back(o.shown == "-" ? "prop.forc" : o.shown.toStdString());
+            EXPECT_EQ(makeInternalData(EchoData::ProgrammTypes(type), project.handle)->visibleKeys, visible);
             expectLines(echo, options, levels, project);
             for (std::size_t rotation = 0; rotation < std::size(known); ++rotation) {
                 for (std::size_t i = 0; i < levels.size(); ++i)

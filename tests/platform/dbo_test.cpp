@@ -59,10 +59,12 @@ TEST_F(Project, isCreatedOnlyWhereNoFileIsAndOpenedOnlyFromAProjectFile) {
         {createProject, "", "no file name"},
         {createProject, path, "already exists"},
         {createProject, path + "/project", "unable to open database file"},
+        {createProject, path + "/", "no file name"},
         {createProject, blocked, "unable to open database file"},
         {openProject, blocked, "no such file"},
         {openProject, folder.path().toStdString(), "not a file"},
         {openProject, file("other"), "not a project", "PRAGMA application_id = 0"},
+        {createProject, file("nowhere/../other"), "already exists"},
         {openProject, file("less"), "no such table: elements", "DROP TABLE elements"},
     };
     for (const auto& row : rows) {

@@ -19,6 +19,8 @@ void onQtMessage(QtMsgType, const QMessageLogContext&, const QString& text) {
 
 int main(int argc, char** argv) {
     qInstallMessageHandler(onQtMessage);
+    qunsetenv("LANGUAGE");
+    qputenv("LC_ALL", "C");
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
     testing::InitGoogleTest(&argc, argv);

@@ -100,10 +100,12 @@ void PropertyDelegate::paint(
     if (!view_->paints(option.rect)) return;
     QStyleOptionViewItem cell = option;
     initStyleOption(&cell, index);
-    const bool inOneLine = view_->widthOf(cell.text) <= cell.rect.width();
-    const QString text = inOneLine ? std::exchange(cell.text, QString()) : QString();
+    const int width = cell.rect.width();
+    const bool wraps = view_->widthOf(cell.text) > width;
+    const bool isKept = !wraps || (view_->wordWrap() && view_->widestWord(cell.text) <= width);
+    const QString text = isKept ? std::exchange(cell.text, QString()) : QString();
     view_->style()->drawControl(QStyle::CE_ItemViewItem, &cell, painter, view_);
-    if (!text.isEmpty()) paintLine(painter, cell, text);
+    if (!text.isEmpty()) paintText(painter, cell, text, wraps);
     if (index.column() != RecordItemModel::ResetColumn || !index.data(RecordItemModel::ChangedRole).toBool())
         return;
     const bool editable = index.siblingAtColumn(RecordItemModel::ValueColumn).flags() & Qt::ItemIsEditable;
@@ -112,25 +114,28 @@ void PropertyDelegate::paint(
 }
 
 // What costs in a cell is to shape its text, which a style does three times over. Here a shape is kept:
-// an inspector has few texts, and most of them in many rows. A style does what has to be wrapped or cut.
-void PropertyDelegate::paintLine(
-    QPainter* painter, const QStyleOptionViewItem& cell, const QString& text) const {
+// an inspector has few texts, and most of them in many rows. A style does what has to be cut.
+void PropertyDelegate::paintText(
+    QPainter* painter, const QStyleOptionViewItem& cell, const QString& text, bool wraps) const {
+    const int margin = view_->style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1;  // as in styles
+    const QRect room = cell.rect.adjusted(margin, 0, -margin, 0);
+    const qreal width = wraps ? room.width() : -1;
     QStaticText& shape = shapes_[{text, cell.font}];
-    QTextOption option(Qt::AlignLeft);
-    option.setTextDirection(cell.direction);
-    if (shape.text().isEmpty() || shape.textOption().textDirection() != cell.direction) {
+    if (shape.text().isEmpty() || shape.textOption().textDirection() != cell.direction ||
+        shape.textWidth() != width) {
+        QTextOption option(wraps ? QStyle::visualAlignment(cell.direction, Qt::AlignLeft) : Qt::AlignLeft);
+        option.setTextDirection(cell.direction);
         shape.setTextFormat(Qt::PlainText);
         shape.setTextOption(option);
+        shape.setTextWidth(width);
         shape.setText(text);
         shape.prepare({}, cell.font);
     }
-    const int margin = view_->style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1;  // as in styles
-    const QRect room = cell.rect.adjusted(margin, 0, -margin, 0);
-    const QRect line =
+    const QRect lines =
         QStyle::alignedRect(cell.direction, cell.displayAlignment, shape.size().toSize(), room);
     painter->setFont(cell.font);
     painter->setPen(textColour(cell));
-    painter->drawStaticText(line.topLeft(), shape);
+    painter->drawStaticText(lines.topLeft(), shape);
 }
 
 QSize PropertyDelegate::sizeHint(const QStyleOptionViewItem& /*option*/, const QModelIndex& index) const {

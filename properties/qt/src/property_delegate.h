@@ -40,7 +40,8 @@ class PropertyDelegate : public QStyledItemDelegate {
 
  private:
     void connectList(NamedValueEditor* list, const QPersistentModelIndex& index) const;
-    void paintLine(QPainter* painter, const QStyleOptionViewItem& cell, const QString& text) const;
+    void paintText(
+        QPainter* painter, const QStyleOptionViewItem& cell, const QString& text, bool wraps) const;
 
     PropertyView* view_;
     mutable QHash<QPair<QString, QFont>, QStaticText> shapes_;

@@ -103,12 +103,17 @@ void PropertyView::measure() {
     }
 }
 
-// The widest word of a label.
+int PropertyView::widestWord(const QString& text) const {
+    int width = 0;
+    for (const QString& word : text.split(QLatin1Char(' '))) width = std::max(width, widthOf(word));
+    return width;
+}
+
+// Of the widest word of a label.
 int PropertyView::wordWidth() const {
     int width = 0;
     for (int row = 0; row < model()->rowCount(); ++row)
-        for (const QString& word : model()->index(row, labelColumn).data().toString().split(QLatin1Char(' ')))
-            width = std::max(width, widthOf(word));
+        width = std::max(width, widestWord(model()->index(row, labelColumn).data().toString()));
     return width;
 }
 

@@ -25,6 +25,7 @@ class PropertyView : public QTreeView {
     bool paints(const QRect& cell) const { return painted_.intersects(cell); }
     // What a text needs in any column, in pixels.
     int widthOf(const QString& text) const;
+    int widestWord(const QString& text) const;
     // Opens the editor of the row.
     void editRow(const QModelIndex& index);
     // Makes the first visible row the current one, if the current one is hidden.

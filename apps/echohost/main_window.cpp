@@ -57,6 +57,16 @@ QToolButton* makeButton(QAction* action) {
     return button;
 }
 
+// Before English, in which the texts are written.
+bool wantsGerman(const QLocale& locale) {
+    for (const QString& name : locale.uiLanguages()) {
+        const QLocale::Language language = QLocale(name).language();
+        if (language == QLocale::German) return true;
+        if (language == QLocale::English) return false;
+    }
+    return false;
+}
+
 }  // namespace
 
 MainWindow::MainWindow()
@@ -186,9 +196,9 @@ void MainWindow::setLanguage(const QLocale& locale) {
     QLocale::setDefault(locale);  // first: the library looks at it when a translator comes or goes
     const QString folder = QLibraryInfo::location(QLibraryInfo::TranslationsPath);
     for (QTranslator* translator : {&texts_, &qtTexts_}) QCoreApplication::removeTranslator(translator);
-    if (qtTexts_.load(locale, QStringLiteral("qtbase"), QStringLiteral("_"), folder))
-        QCoreApplication::installTranslator(&qtTexts_);
-    if (texts_.load(locale, QStringLiteral("echohost"), QStringLiteral("_"), QStringLiteral(":/echohost")))
+    if (!wantsGerman(locale)) return;
+    if (qtTexts_.load(QStringLiteral("qtbase_de"), folder)) QCoreApplication::installTranslator(&qtTexts_);
+    if (texts_.load(QStringLiteral("echohost_de"), QStringLiteral(":/echohost")))
         QCoreApplication::installTranslator(&texts_);
 }
 
@@ -244,7 +254,8 @@ void MainWindow::newProject() {
         nullptr,
         QFileDialog::DontConfirmOverwrite);  // a project is never overwritten
     if (file.isEmpty()) return;
-    if (QFileInfo(file).suffix().isEmpty()) file += QLatin1String(".tiv");
+    const QLatin1String suffix(".tiv");
+    if (!file.endsWith(suffix, Qt::CaseInsensitive)) file += suffix;
     createProject(file, *counts);
     openProject(file);
 }

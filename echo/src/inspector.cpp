@@ -21,10 +21,8 @@ using WeakTable = std::weak_ptr<InternalInterface>;
 // Whether a line begins as settings do, with the envelope's field "prop". Whether it can be read is another
 // question.
 bool beginsAsSettings(const QString& line) {
-    if (line.startsWith(QLatin1Char('{'))) {
-        const QJsonDocument json = QJsonDocument::fromJson(line.toUtf8());
-        return json.isNull() || json.object().contains(QStringLiteral("prop"));
-    }
+    if (line.startsWith(QLatin1Char('{')))
+        return QJsonDocument::fromJson(line.toUtf8()).object().contains(QStringLiteral("prop"));
     const auto bytes =
         QByteArray::fromBase64Encoding(line.toLatin1(), QByteArray::AbortOnBase64DecodingErrors);
     return bytes && bytes.decoded.startsWith(settingsFirstByte);

@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <QLocale>
+#include <QReadWriteLock>
 #include <QStringList>
 #include <QTranslator>
 
@@ -24,8 +25,10 @@ class Catalogue : public QTranslator {
     }
 
     bool isEmpty() const override { return !current_; }
+    // Called in any thread.
     QString translate(
         const char* context, const char* text, const char* disambiguation, int n) const override {
+        const QReadLocker lock(&lock_);
         return current_ ? current_->translate(context, text, disambiguation, n) : QString();
     }
 
@@ -45,7 +48,9 @@ class Catalogue : public QTranslator {
         const QStringList languages = QLocale().uiLanguages();
         if (languages == languages_) return false;
         languages_ = languages;
-        current_ = catalogueOf(languages);
+        auto next = catalogueOf(languages);  // holds what was current in the end, to go without the lock
+        const QWriteLocker lock(&lock_);
+        current_.swap(next);
         return true;
     }
 
@@ -65,7 +70,8 @@ class Catalogue : public QTranslator {
     }
 
     QString name_;
-    QStringList languages_;  // most wanted first
+    QStringList languages_;        // most wanted first
+    mutable QReadWriteLock lock_;  // of current_
     std::unique_ptr<QTranslator> current_;
 };
 

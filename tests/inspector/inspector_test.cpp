@@ -100,6 +100,11 @@ TEST(Inspector, ChangesNothingByWheelOrNavigation) {
     QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
     QApplication::sendEvent(driver.list(), &held);
     EXPECT_TRUE(driver.list());
+    driver.key(Qt::Key_Escape);
+    held.setAccepted(true);
+    QApplication::sendEvent(driver.view, &held);
+    EXPECT_TRUE(held.isAccepted() && !driver.list()) << "nor is it the host's";
+    driver.key(Qt::Key_F2);
     driver.wheel(driver.view->findChild<QWidget*>("qt_scrollarea_viewport"));
     driver.key(Qt::Key_Escape);
     std::mt19937 random(5);
@@ -151,6 +156,18 @@ TEST(Inspector, SaysWhyAHostThatKeepsATransactionOpenKeepsTheOldValue) {
     EXPECT_EQ(driver.message(), "");
 }
 
+TEST(Inspector, ForgetsItsStepsWhenAnotherGestureComesBetween) {
+    Host host(EchoData::ESK, json(R"("load":3)"));
+    bool isFirst = true;
+    const auto* widget = qobject_cast<QtInspectorWidget*>(host.driver->widget);
+    QObject::connect(widget, &QtInspectorWidget::settingsChanged, [&] {
+        if (std::exchange(isFirst, false)) QTest::keyClick(host.driver->view, Qt::Key_Delete);
+    });
+    host.driver->choose("Loads", "No output");
+    host.driver->key(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(host.driver->row("Loads"), "Default output");
+}
+
 std::vector<QAccessible::Event> spoken;
 
 TEST(Inspector, SpeaksToAScreenReader) {
@@ -191,6 +208,11 @@ TEST(Inspector, SpeaksToAScreenReader) {
     driver.key(Qt::Key_V, Qt::ControlModifier);
     EXPECT_EQ(driver.rows(), QStringList("Sum of loads=Normal output*"));
     EXPECT_EQ(std::count(spoken.begin(), spoken.end(), QAccessible::ValueChanged), 1);
+    // All rows are shown again, and one is changed, before the view lays them out.
+    QTest::keyClick(driver.widget->findChild<QLineEdit*>(), Qt::Key_Escape);
+    QApplication::clipboard()->setText(json(R"("bedd":2)"));
+    QTest::keyClick(driver.view, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(driver.row("Bedding stresses"), "Normal output*");
     QAccessible::installUpdateHandler(previous);
     platform->setActive(false);
 }

@@ -29,6 +29,7 @@ NamedValueEditor::NamedValueEditor(QWidget* parent, std::shared_ptr<const Proper
     setLayoutDirection(parent->layoutDirection());
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSizeConstraint(QLayout::SetNoConstraint);  // a list of few entries is small
     layout->addWidget(list_);
     setFrameShape(QFrame::Box);  // seen in a dark theme, too
     list_->setFrameShape(QFrame::NoFrame);
@@ -89,8 +90,9 @@ void NamedValueEditor::placeAt(const QRect& cell) {
     }
     width = std::clamp(width, cell.width(), std::max(cell.width(), room.width()));
     const int left = isRightToLeft() ? cell.right() + 1 - width : cell.left();
+    const int top = goesBelow ? cell.bottom() + 1 : cell.top() - height;
     setGeometry(std::clamp(left, room.left(), std::max(room.left(), room.right() + 1 - width)),
-        goesBelow ? cell.bottom() + 1 : cell.top() - height,
+        std::clamp(top, room.top(), std::max(room.top(), room.bottom() + 1 - height)),
         width,
         height);
 }

@@ -21,7 +21,6 @@ constexpr int valueColumn = RecordItemModel::ValueColumn;
 constexpr int resetColumn = RecordItemModel::ResetColumn;
 
 bool opensEditor(const QKeyEvent& event) {
-    if (event.isAutoRepeat()) return false;
     switch (event.key()) {
         case Qt::Key_Return:
         case Qt::Key_Enter:
@@ -169,11 +168,14 @@ void PropertyView::leaveHiddenRow() {
     while (row < model()->rowCount() &&
            (isRowHidden(row, {}) || !(model()->index(row, valueColumn).flags() & Qt::ItemIsSelectable)))
         ++row;
-    setCurrentIndex(model()->index(row, valueColumn));
+    if (row < model()->rowCount()) setCurrentIndex(model()->index(row, valueColumn));
 }
 
 void PropertyView::keyPressEvent(QKeyEvent* event) {
-    if (opensEditor(*event)) return editRow(currentIndex());
+    if (opensEditor(*event)) {
+        if (!event->isAutoRepeat()) editRow(currentIndex());
+        return;  // a held Return is not the host's
+    }
     if (event->key() == Qt::Key_Delete && event->modifiers() == Qt::NoModifier) {
         emit resetRequested();
         return;

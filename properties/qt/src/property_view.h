@@ -28,6 +28,8 @@ class PropertyView : public QTreeView {
     int widestWord(const QString& text) const;
     // Opens the editor of the row.
     void editRow(const QModelIndex& index);
+    // Rows that were hidden or shown have their places, and their cells for screen readers.
+    void layOutNow() { executeDelayedItemsLayout(); }
     // Makes the first visible row the current one, if the current one is hidden.
     void leaveHiddenRow();
 

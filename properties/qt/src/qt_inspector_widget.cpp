@@ -275,6 +275,7 @@ void QtInspectorWidget::apply(const std::vector<PropertyValue>& wanted) {
 // What a screen reader reads out after a gesture of the engineer.
 void QtInspectorWidget::announce(const std::vector<PropertyValue>& values) {
     if (!QAccessible::isActive()) return;
+    view_->layOutNow();
     QAccessibleTableInterface* table = QAccessible::queryAccessibleInterface(view_)->tableInterface();
     int visible = 0;  // rows before this one: no others have cells
     for (int row = 0; row < rows_->rowCount(); ++row) {
@@ -306,8 +307,9 @@ bool QtInspectorWidget::change(const std::function<void()>& action) {
         return false;
     }
     const QPointer<QtInspectorWidget> self(this);
-    changing_ = true;
-    changesSeen_ = 0;
+    // An observer may run an event loop, and the engineer another gesture in that.
+    const bool wasChanging = std::exchange(changing_, true);
+    const int seenBefore = std::exchange(changesSeen_, 0);
     QString problem;
     try {
         action();
@@ -315,13 +317,14 @@ bool QtInspectorWidget::change(const std::function<void()>& action) {
         problem = QString::fromUtf8(exception.what());
     }
     if (!self) return false;
-    changing_ = false;
+    changing_ = wasChanging;
+    const int seen = std::exchange(changesSeen_, changesSeen_ + seenBefore);
     if (!problem.isEmpty()) {
         say(rows_->text("Not changed: %1").arg(problem));
         return false;
     }
-    if (changesSeen_ > 1) undo_.clear();  // an observer went on changing: our steps no longer fit
-    return changesSeen_ <= 1;
+    if (seen > 1) undo_.clear();  // an observer went on changing: our steps no longer fit
+    return seen <= 1;
 }
 
 void QtInspectorWidget::onRecordChanged() {
@@ -334,11 +337,13 @@ void QtInspectorWidget::onRecordChanged() {
 }
 
 void QtInspectorWidget::undo() {
-    if (write(static_cast<const Step&>(*undo_.command(undo_.index() - 1)).before)) undo_.undo();
+    const auto values = static_cast<const Step&>(*undo_.command(undo_.index() - 1)).before;
+    if (write(values)) undo_.undo();
 }
 
 void QtInspectorWidget::redo() {
-    if (write(static_cast<const Step&>(*undo_.command(undo_.index())).after)) undo_.redo();
+    const auto values = static_cast<const Step&>(*undo_.command(undo_.index())).after;
+    if (write(values)) undo_.redo();
 }
 
 // ---- clipboard ----
@@ -380,7 +385,10 @@ void QtInspectorWidget::showFilter() {
         layout->addWidget(changedOnly_);
         static_cast<QVBoxLayout*>(this->layout())->insertWidget(0, filterBar_);
         changedOnly_->installEventFilter(this);
-        setTabOrder(view_->previousInFocusChain(), query_);
+        QWidget* before = view_->previousInFocusChain();
+        while (before != view_ && before->focusPolicy() == Qt::NoFocus)
+            before = before->previousInFocusChain();
+        setTabOrder(before, query_);
         setTabOrder(query_, changedOnly_);
         connect(query_, &QLineEdit::textChanged, this, &QtInspectorWidget::filterRows);
         connect(changedOnly_, &QCheckBox::toggled, this, &QtInspectorWidget::filterRows);
@@ -447,7 +455,8 @@ void QtInspectorWidget::changeEvent(QEvent* event) {
     if (host_.retranslate) host_.retranslate();
     setAccessibleName(rows_->text("Output options"));
     view_->setAccessibleName(accessibleName());
-    if (message_) message_->hide();  // its text is of the other language
+    if (message_) message_->hide();  // its text is of the other language, as a menu's are
+    for (auto* menu : findChildren<QMenu*>(QString(), Qt::FindDirectChildrenOnly)) menu->close();
     rows_->retranslate();
     filterRows();
     view_->measureAgain();

@@ -17,7 +17,7 @@ std::shared_ptr<Table> tableToEdit(const QCommandLineParser& arguments) {
     const QString file = arguments.value(settingsOption());
     if (file.isEmpty() || file == standardStream)
         throw UsageError(QStringLiteral("expected --settings with the name of a file"));
-    const auto table = makeTable(arguments.positionalArguments().constFirst(), projectOf(arguments));
+    auto table = makeTable(arguments.positionalArguments().constFirst(), projectOf(arguments));
     requireOptions(*table);
     if (QFile::exists(file)) readSettings(*table, file);
     return table;

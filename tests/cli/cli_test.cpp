@@ -118,8 +118,10 @@ TEST_F(EchotableTool, ReadsSettingsAsEditorsSaveThem) {
         "ChAGAAA=\n! echotable: warning: standard input: 2 records instead of one, every option was reset\n");
 }
 
-TEST_F(EchotableTool, ReportsAFullDeviceAndAMissingDisplay) {
+TEST_F(EchotableTool, SaysWhatThisSystemDoesNotLetItDo) {
     if (!QFile::exists("/dev/full")) GTEST_SKIP() << "not this system";
+    EXPECT_EQ(run("project store P \"a\nb\" esk"),
+        "! echotable: expected a name for the task without control characters (see echotable project store --help)\n? 2\n");
     write("log", "kept");
     EXPECT_EQ(run("set esk --output /dev/stdout", {}, folder.filePath("log")),
         "! echotable: /dev/stdout: not a file\n? 1\n");

@@ -61,13 +61,6 @@ TEST(EditWindow, SavesOnOkOnly) {
     }
 }
 
-TEST(EditWindow, NeedsASettingsFileThatCanBeRead) {
-    const QTemporaryDir folder;
-    const auto noSteps = [](const test::Driver&) { FAIL() << "a window opened"; };
-    EXPECT_THROW(edit("-", noSteps), tiv::tool::UsageError);
-    EXPECT_THROW(edit(folder.path(), noSteps), std::runtime_error);
-}
-
 TEST(EditWindow, StaysOpenWhenItCannotSave) {
     const QTemporaryDir folder;
     const QString file = folder.filePath("missing/static.txt");

@@ -54,11 +54,7 @@ void Driver::click(const QString& label, int column, Qt::KeyboardModifiers modif
 }
 
 void Driver::key(int key, Qt::KeyboardModifiers modifiers) {
-    QWidget* popup = QApplication::activePopupWidget();
-    QWidget* target = popup && popup->focusWidget() ? popup->focusWidget()
-                      : popup                       ? popup
-                                                    : QApplication::focusWidget();
-    if (auto* open = list()) target = open;
+    QWidget* target = list() ? list() : QApplication::focusWidget();
     if (target) QTest::keyClick(target, static_cast<Qt::Key>(key), modifiers);
     settle();
 }

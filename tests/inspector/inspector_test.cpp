@@ -275,13 +275,6 @@ TEST(Inspector, SurvivesEveryOrderOfDestruction) {
         {"filter focused", [](Driver& driver) { driver.key(Qt::Key_F, Qt::ControlModifier); }},
         {"level clicked", [](Driver& driver) { driver.choose("Loads", "No output"); }, true},
         {"reset clicked", [](Driver& driver) { driver.click("Loads", 2); }, true},
-        {"level entered",
-            [](Driver& driver) {
-                driver.click("Loads");
-                driver.key(Qt::Key_Up);
-                driver.key(Qt::Key_Return);
-            },
-            true},
         {"reset by key",
             [](Driver& driver) {
                 driver.click("Loads", 0, Qt::ControlModifier);

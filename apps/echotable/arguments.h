@@ -12,6 +12,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <stdexcept>
 
 namespace tiv::tool {
@@ -29,10 +30,8 @@ struct Verb {
     QList<QCommandLineOption> options;
     // Throws UsageError, or std::exception "<file>: <what went wrong>".
     void (*run)(const QCommandLineParser& arguments);
-    // What comes behind that in a window, which needs a display; null: nothing.
-    void (*window)(const QCommandLineParser& arguments) = nullptr;
-
-    using Step = void (*Verb::*)(const QCommandLineParser& arguments);
+    // In place of `run`, throws the same and needs no display; what it gives opens the window.
+    std::function<void()> (*prepare)(const QCommandLineParser& arguments) = nullptr;
 };
 
 Verb programs();

@@ -13,23 +13,7 @@
 namespace tiv::tool {
 namespace {
 
-std::shared_ptr<Table> tableToEdit(const QCommandLineParser& arguments) {
-    const QString file = arguments.value(settingsOption());
-    if (file.isEmpty() || file == standardStream)
-        throw UsageError(QStringLiteral("expected --settings with the name of a file"));
-    auto table = makeTable(arguments.positionalArguments().constFirst(), projectOf(arguments));
-    requireOptions(*table);
-    if (QFile::exists(file)) readSettings(*table, file);
-    return table;
-}
-
-void check(const QCommandLineParser& arguments) {
-    tableToEdit(arguments);
-}
-
-void open(const QCommandLineParser& arguments) {
-    const auto table = tableToEdit(arguments);
-    const QString file = arguments.value(settingsOption());
+void open(const QString& file, const std::shared_ptr<Table>& table) {
     QDialog window;
     window.setWindowTitle(QStringLiteral("%1 - %2").arg(
         QFileInfo(file).fileName(), programName(static_cast<int>(table->programType))));
@@ -51,6 +35,16 @@ void open(const QCommandLineParser& arguments) {
     window.exec();
 }
 
+std::function<void()> prepare(const QCommandLineParser& arguments) {
+    const QString file = arguments.value(settingsOption());
+    if (file.isEmpty() || file == standardStream)
+        throw UsageError(QStringLiteral("expected --settings with the name of a file"));
+    const auto table = makeTable(arguments.positionalArguments().constFirst(), projectOf(arguments));
+    requireOptions(*table);
+    if (QFile::exists(file)) readSettings(*table, file);
+    return [file, table] { open(file, table); };
+}
+
 }  // namespace
 
 Verb edit() {
@@ -58,8 +52,8 @@ Verb edit() {
         {QStringLiteral("PROGRAM")},
         QStringLiteral("Opens a settings file, new or not, in the property inspector; OK saves it."),
         {settingsOption(), projectOption(), elementsOption()},
-        &check,
-        &open};
+        nullptr,
+        &prepare};
 }
 
 }  // namespace tiv::tool

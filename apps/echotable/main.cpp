@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <functional>
 #include <vector>
 
 #if defined(Q_OS_WIN)
@@ -99,33 +100,32 @@ QString unknownVerb(const QStringList& words) {
     return problem + QStringLiteral(", expected ") + choices(begun.isEmpty() ? all : begun);
 }
 
-// `verb` is the one that the words begin with, or null. Whether the parser understood the rest of them.
-bool parse(QCommandLineParser& parser, const Verb* verb, const QStringList& words) {
+// `verb` is the one that the words begin with, or null. Gives what opens its window; empty for none.
+std::function<void()> run(const Verb* verb, const QStringList& words) {
+    QCommandLineParser parser;
     parser.addOptions({helpOption(), versionOption()});
     if (verb) parser.addOptions(verb->options);
     const int skipped = verb ? verb->name.count(QLatin1Char(' ')) + 1 : 0;
-    return parser.parse(QStringList(QStringLiteral("echotable")) + words.mid(skipped));
-}
+    const bool understood = parser.parse(QStringList(QStringLiteral("echotable")) + words.mid(skipped));
 
-void run(const Verb* verb, const QStringList& words, Verb::Step step) {
-    QCommandLineParser parser;
-    const bool understood = parse(parser, verb, words);
-    if (parser.isSet(helpOption())) return print(verb ? helpOf(*verb, parser) : generalHelp());
-    if (parser.isSet(versionOption())) return print(QStringLiteral("echotable " TIV_VERSION "\n"));
+    if (parser.isSet(helpOption())) return print(verb ? helpOf(*verb, parser) : generalHelp()), nullptr;
+    if (parser.isSet(versionOption())) return print(QStringLiteral("echotable " TIV_VERSION "\n")), nullptr;
     if (!verb) throw UsageError(unknownVerb(words));
     if (!understood) throw UsageError(parser.errorText().chopped(1));  // the full stop
     for (const QString& word : words)
         if (word.contains(QChar::ReplacementCharacter))  // another file's name could read the same
             throw UsageError(QStringLiteral("a character of \"%1\" cannot be read").arg(word));
     checkCount(parser.positionalArguments(), verb->arguments);
-    (verb->*step)(parser);
+    if (verb->prepare) return verb->prepare(parser);
+    verb->run(parser);
+    return nullptr;
 }
 
-int exitCodeOf(const QStringList& words, Verb::Step step) {
+int exitCodeOf(const QStringList& words, std::function<void()>& window) {
     const QList<Verb> verbs = allVerbs();
     const Verb* verb = findVerb(verbs, words);
     try {
-        run(verb, words, step);
+        window = run(verb, words);
         return Done;
     } catch (const UsageError& problem) {
         const QString name = verb ? verb->name + QLatin1Char(' ') : QString();
@@ -135,14 +135,6 @@ int exitCodeOf(const QStringList& words, Verb::Step step) {
         complain(QString::fromUtf8(problem.what()));
         return WrongInput;
     }
-}
-
-bool opensWindow(const QStringList& words) {
-    const QList<Verb> verbs = allVerbs();
-    const Verb* verb = findVerb(verbs, words);
-    QCommandLineParser parser;
-    return verb && verb->window && parse(parser, verb, words) && !parser.isSet(helpOption()) &&
-           !parser.isSet(versionOption());
 }
 
 // Without a display Qt says so in many lines, and aborts.
@@ -173,16 +165,15 @@ int main(int argc, char** argv) {
                      QString::fromUtf8(report.source.data(), static_cast<int>(report.source.size())))
                  .arg(report.line));
     });
-    QStringList words;
-    int code = Done;
+    std::function<void()> window;
     {
         const QCoreApplication withoutDisplay(argc, argv);
-        words = QCoreApplication::arguments().mid(1);
-        code = exitCodeOf(words, &Verb::run);
+        const int code = exitCodeOf(QCoreApplication::arguments().mid(1), window);
+        if (!window) return code;
     }
-    if (code != Done || !opensWindow(words)) return code;
     const auto handler = qInstallMessageHandler(onQtMessage);
     const QApplication application(argc, argv);
     qInstallMessageHandler(handler);
-    return exitCodeOf(words, &Verb::window);
+    window();
+    return Done;
 }

@@ -30,7 +30,7 @@ void edit(const QString& file, const std::function<void(test::Driver)>& steps) {
     QObject::connect(
         &timer, &QTimer::timeout, [&] { steps(test::Driver(QApplication::activeModalWidget())); });
     timer.start(0);
-    verb.window(arguments);
+    verb.prepare(arguments)();
 }
 
 QString textOf(const QString& name) {

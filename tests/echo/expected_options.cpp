@@ -9,8 +9,7 @@ const std::vector<ExpectedOption>& expectedOptions() {
     static const std::vector<ExpectedOption> all = [] {
         std::vector<ExpectedOption> rows;
         for (const QStringList& c : table("programs.tsv"))
-            rows.push_back(
-                {c[0].toInt(), c[1], c[2], c[3].toInt(), c[4], c[5], c[6], c[7], c[8], c[9], c[10]});
+            rows.push_back({c[0].toInt(), c[1], c[2].toInt(), c[3], c[4], c[5], c[6], c[7], c[8], c[9]});
         return rows;
     }();
     return all;

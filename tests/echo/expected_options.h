@@ -10,8 +10,7 @@
 namespace test {
 
 struct ExpectedOption {
-    int type;          // program type
-    QString envelope;  // qualified name of the settings record
+    int type;  // program type
     QString field;
     int byDefault;  // level in a new record
     QString label;

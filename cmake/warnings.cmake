@@ -1,12 +1,12 @@
-# Every target of the project links tiv_warnings: one place for language strictness and the include root.
-add_library(tiv_warnings INTERFACE)
-target_include_directories(tiv_warnings INTERFACE ${PROJECT_SOURCE_DIR})
+# Every target of the project links tiv_internal: one place for language strictness and the include root.
+add_library(tiv_internal INTERFACE)
+target_include_directories(tiv_internal INTERFACE ${PROJECT_SOURCE_DIR})
 if(MSVC)
-    target_compile_options(tiv_warnings INTERFACE
+    target_compile_options(tiv_internal INTERFACE
         /W4 /permissive- /utf-8 /Zc:__cplusplus $<$<BOOL:${TIV_WARNINGS_AS_ERRORS}>:/WX>)
-    target_compile_definitions(tiv_warnings INTERFACE _CRT_SECURE_NO_WARNINGS)  # std::getenv is no error
+    target_compile_definitions(tiv_internal INTERFACE _CRT_SECURE_NO_WARNINGS)  # std::getenv is no error
 else()
-    target_compile_options(tiv_warnings INTERFACE
+    target_compile_options(tiv_internal INTERFACE
         -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor -Wold-style-cast
         $<$<BOOL:${TIV_WARNINGS_AS_ERRORS}>:-Werror>)
 endif()

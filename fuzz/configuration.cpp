@@ -4,7 +4,7 @@
 //     "a.b     sets it to a text
 //     *a.b     sets it to a list
 //     ?a.b     asks for it, as does every other first character
-#include "properties/nextgen/configuration.h"
+#include "properties/definitions/configuration.h"
 
 #include "fuzz/target.h"
 

@@ -96,7 +96,7 @@ std::vector<Option> optionsOf(const Table& table) {
     const auto* program = dynamic_cast<const echo::data::ProgramData*>(&table);
     if (!program) return options;
     for (const auto& property : table.properties->list)
-        options.push_back({property, program->variant()->options[property->field->id].number});
+        options.push_back({property, program->servedType()->options[property->field->id].number});
     return options;
 }
 

@@ -9,12 +9,12 @@ namespace {
 constexpr OptionNumber brucOptions[] = {46, 47, 48, 49, 50, 51, 52};
 constexpr OptionNumber rissOptions[] = {46, 47, 48, 49, 50, 53, 54};
 
-constexpr Variant variants[] = {
-    variant<dimvel::BrucData>(EchoData::DIMVEL_BRUC, brucOptions),
-    variant<dimvel::RissData>(EchoData::DIMVEL_RISS, rissOptions),
+constexpr ServedType types[] = {
+    serves<dimvel::BrucData>(EchoData::DIMVEL_BRUC, brucOptions),
+    serves<dimvel::RissData>(EchoData::DIMVEL_RISS, rissOptions),
 };
 
-constexpr Program program{variants, OtherTypes::Refused, {"echo/src/dimvel_data", 100}};
+constexpr Program program{types, OtherTypes::Refused, {"echo/src/dimvel_data", 100}};
 
 }  // namespace
 

@@ -10,12 +10,12 @@ namespace {
 constexpr OptionNumber staticOptions[] = {0, 1, 2, 3, 4, 5, 6, {7, "prop.forc"}, 8, 9};
 constexpr OptionNumber eigenvalueOptions[] = {0, 10, 1};
 
-constexpr Variant variants[] = {
-    variant<esk::Data>(EchoData::ESK, staticOptions),
-    variant<esk::EigeData>(EchoData::ESK_EIGE, eigenvalueOptions),
+constexpr ServedType types[] = {
+    serves<esk::Data>(EchoData::ESK, staticOptions),
+    serves<esk::EigeData>(EchoData::ESK_EIGE, eigenvalueOptions),
 };
 
-constexpr Program program{variants, OtherTypes::Refused, {"echo/src/esk_data", 99}};
+constexpr Program program{types, OtherTypes::Refused, {"echo/src/esk_data", 99}};
 
 }  // namespace
 

@@ -4,8 +4,8 @@
 
 #include "properties/container/key.h"
 #include "properties/container/model.h"
-#include "properties/nextgen/property.h"
-#include "properties/nextgen/selection_manager.h"
+#include "properties/definitions/property.h"
+#include "properties/definitions/selection_manager.h"
 #include "tiv/echo/echo_data.h"
 
 #include <QString>

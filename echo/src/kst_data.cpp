@@ -8,11 +8,11 @@ namespace {
 
 constexpr OptionNumber options[] = {43, 44, 45};
 
-constexpr Variant variants[] = {
-    variant<kst::Data>(EchoData::KST, options),
+constexpr ServedType types[] = {
+    serves<kst::Data>(EchoData::KST, options),
 };
 
-constexpr Program program{variants, OtherTypes::AlsoInserted};
+constexpr Program program{types, OtherTypes::AlsoInserted};
 
 }  // namespace
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "echo/schema/output_type.h"
-#include "properties/nextgen/property.h"
+#include "properties/definitions/property.h"
 
 #include <QString>
 

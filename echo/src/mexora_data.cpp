@@ -8,11 +8,11 @@ namespace {
 
 constexpr OptionNumber options[] = {58, 59, 60};
 
-constexpr Variant variants[] = {
-    variant<mexora::Data>(EchoData::MEXORA, options),
+constexpr ServedType types[] = {
+    serves<mexora::Data>(EchoData::MEXORA, options),
 };
 
-constexpr Program program{variants, OtherTypes::Written};
+constexpr Program program{types, OtherTypes::Written};
 
 }  // namespace
 

@@ -8,11 +8,11 @@ namespace {
 
 constexpr OptionNumber options[] = {11, 12, 14, 15, 16, 19, 20, 13, 17, 21, 22, 18, 23, 24, 25};
 
-constexpr Variant variants[] = {
-    variant<plax2::Data>(EchoData::PLAX2, options),
+constexpr ServedType types[] = {
+    serves<plax2::Data>(EchoData::PLAX2, options),
 };
 
-constexpr Program program{variants, OtherTypes::Written};
+constexpr Program program{types, OtherTypes::Written};
 
 }  // namespace
 

@@ -11,10 +11,10 @@
 namespace tiv::echo::data {
 namespace {
 
-const Variant* variantFor(const Program& program, EchoData::ProgrammTypes type) {
-    for (const Variant& variant : program.variants)
-        if (variant.type == type) return &variant;
-    return program.otherTypes == OtherTypes::Refused ? nullptr : program.variants.data();
+const ServedType* servedTypeFor(const Program& program, EchoData::ProgrammTypes type) {
+    for (const ServedType& served : program.types)
+        if (served.type == type) return &served;
+    return program.otherTypes == OtherTypes::Refused ? nullptr : program.types.data();
 }
 
 // "REAC, REAK", or the one keyword that an option has in both languages.
@@ -37,9 +37,9 @@ const QString& keywords(int option) {
 }  // namespace
 
 ProgramData::ProgramData(EchoData::ProgrammTypes type, int database, const Program& program)
-    : InternalInterface(type, database), program_(program), variant_(variantFor(program, type)) {
-    if (!variant_) return;
-    const properties::RecordAccess& record = variant_->record();
+    : InternalInterface(type, database), program_(program), served_(servedTypeFor(program, type)) {
+    if (!served_) return;
+    const properties::RecordAccess& record = served_->record();
     translation::configure_xlator(*properties->xlator, record.schema.name);
     properties::fromBond(record, *properties);
 
@@ -47,8 +47,8 @@ ProgramData::ProgramData(EchoData::ProgrammTypes type, int database, const Progr
     record.insertDefault(transaction, recordKey());
     transaction.end();
 
-    for (const bond::Row& field : optionFields(*variant_).rows) {
-        const OptionNumber& option = variant_->options[field.id];
+    for (const bond::Row& field : optionFields(*served_).rows) {
+        const OptionNumber& option = served_->options[field.id];
         properties->list[field.id]->configuration.set("inspector.keyword", keywords(option.number));
         showOption(option.shownAs ? option.shownAs : std::string("prop.") + field.name, option.number);
     }
@@ -56,27 +56,27 @@ ProgramData::ProgramData(EchoData::ProgrammTypes type, int database, const Progr
 
 QString ProgramData::getXMLData() {
     if (!servesType()) return {};
-    const properties::RecordAccess& record = variant_->record();
+    const properties::RecordAccess& record = served_->record();
     return settingsString(record.schema, record.read(*model, recordKey()));
 }
 
 void ProgramData::insertXMLData(const QString& text) {
-    if (servesType() || program_.otherTypes == OtherTypes::AlsoInserted) variant_->insert(*model, text);
+    if (servesType() || program_.otherTypes == OtherTypes::AlsoInserted) served_->insert(*model, text);
 }
 
 std::vector<QString> ProgramData::getTELINP(bool defaultsOnly, bool extensive, int language) {
     if (defaultsOnly) return defaultsLine(language, extensive);
-    if (!variant_) {
+    if (!served_) {
         smartassert::SmartAssert(
             R"(0 && "invalid programtypoe")", program_.refusal.source, program_.refusal.line);
         return {};
     }
-    const bond::Struct& envelope = variant_->record().schema;
-    const void* options = envelope.rows.front().in(variant_->record().read(*model, recordKey()));
+    const bond::Struct& envelope = served_->record().schema;
+    const void* options = envelope.rows.front().in(served_->record().read(*model, recordKey()));
     std::vector<QString> lines;
-    for (const bond::Row& field : optionFields(*variant_).rows) {
+    for (const bond::Row& field : optionFields(*served_).rows) {
         const auto level = *static_cast<const OutPutType*>(field.in(options));
-        appendOptionLine(lines, flags, variant_->options[field.id].number, level, language);
+        appendOptionLine(lines, flags, served_->options[field.id].number, level, language);
     }
     return lines;
 }

@@ -2,14 +2,14 @@
 // records, the option number of each field, and what it does for a program type that is not its own.
 //
 //     constexpr OptionNumber options[] = {43, 44, 45};
-//     constexpr Variant variants[] = {variant<kst::Data>(EchoData::KST, options)};
-//     constexpr Program program{variants, OtherTypes::AlsoInserted};
+//     constexpr ServedType types[] = {serves<kst::Data>(EchoData::KST, options)};
+//     constexpr Program program{types, OtherTypes::AlsoInserted};
 #pragma once
 
 #include "echo/src/internal_data.h"
 #include "echo/src/settings_string.h"
 #include "echo/src/utils.h"
-#include "properties/nextgen/record_access.h"
+#include "properties/definitions/record_access.h"
 
 #include <cstddef>
 #include <span>
@@ -27,7 +27,7 @@ struct OptionNumber {
 };
 
 // One settings record of a program.
-struct Variant {
+struct ServedType {
     EchoData::ProgrammTypes type;
     const properties::RecordAccess& (*record)();
     // Replaces the record by the one that a settings string holds.
@@ -44,7 +44,7 @@ void insertSettings(container::model::Model& model, const QString& text) {
 }
 
 template <class Data, std::size_t N>
-constexpr Variant variant(EchoData::ProgrammTypes type, const OptionNumber (&options)[N]) {
+constexpr ServedType serves(EchoData::ProgrammTypes type, const OptionNumber (&options)[N]) {
     static_assert(N == bond::fieldCount<decltype(Data::prop)>, "<=== every field needs its option number");
     return {type, &properties::recordAccess<Data>, &insertSettings<Data>, options};
 }
@@ -62,7 +62,7 @@ struct ReportSite {
 };
 
 struct Program {
-    std::span<const Variant> variants;
+    std::span<const ServedType> types;
     OtherTypes otherTypes;
     ReportSite refusal = {};  // of OtherTypes::Refused
 };
@@ -74,22 +74,22 @@ class ProgramData : public InternalInterface {
     std::vector<QString> getTELINP(bool defaultsOnly, bool extensive, int language) final;
 
     // The record and options in use; null for a refused program type.
-    const Variant* variant() const { return variant_; }
+    const ServedType* servedType() const { return served_; }
 
  protected:
     // `program` is constant data. Builds the options: the default record, its properties, visibleKeys.
     ProgramData(EchoData::ProgrammTypes type, int database, const Program& program);
 
  private:
-    bool servesType() const { return variant_ && variant_->type == programType; }
+    bool servesType() const { return served_ && served_->type == programType; }
 
     const Program& program_;
-    const Variant* variant_;
+    const ServedType* served_;
 };
 
 // The option fields of a record: those of the envelope's field `prop`.
-inline const bond::Struct& optionFields(const Variant& variant) {
-    return *variant.record().schema.rows.front().nested;
+inline const bond::Struct& optionFields(const ServedType& served) {
+    return *served.record().schema.rows.front().nested;
 }
 
 }  // namespace tiv::echo::data

@@ -10,13 +10,13 @@ constexpr OptionNumber brucOptions[] = {31, 32, 30, 33, 34};
 constexpr OptionNumber rissOptions[] = {31, 32, 30, 28, 35};
 constexpr OptionNumber elPlOptions[] = {11, 19, 17, 30, 26, 27, 28, 29};
 
-constexpr Variant variants[] = {
-    variant<qsx::BrucData>(EchoData::QSX_BRUC, brucOptions),
-    variant<qsx::RissData>(EchoData::QSX_RISS, rissOptions),
-    variant<qsx::ElPlData>(EchoData::QSX_ELPL, elPlOptions),
+constexpr ServedType types[] = {
+    serves<qsx::BrucData>(EchoData::QSX_BRUC, brucOptions),
+    serves<qsx::RissData>(EchoData::QSX_RISS, rissOptions),
+    serves<qsx::ElPlData>(EchoData::QSX_ELPL, elPlOptions),
 };
 
-constexpr Program program{variants, OtherTypes::Refused, {"echo/src/qsx_data", 121}};
+constexpr Program program{types, OtherTypes::Refused, {"echo/src/qsx_data", 121}};
 
 }  // namespace
 

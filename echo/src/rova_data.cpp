@@ -8,11 +8,11 @@ namespace {
 
 constexpr OptionNumber options[] = {61, 62, 63, 64};
 
-constexpr Variant variants[] = {
-    variant<rova::Data>(EchoData::ROVA, options),
+constexpr ServedType types[] = {
+    serves<rova::Data>(EchoData::ROVA, options),
 };
 
-constexpr Program program{variants, OtherTypes::Written};
+constexpr Program program{types, OtherTypes::Written};
 
 }  // namespace
 

@@ -8,11 +8,11 @@ namespace {
 
 constexpr OptionNumber options[] = {55, 56, 57};
 
-constexpr Variant variants[] = {
-    variant<tiviload::Data>(EchoData::TIVILOAD, options),
+constexpr ServedType types[] = {
+    serves<tiviload::Data>(EchoData::TIVILOAD, options),
 };
 
-constexpr Program program{variants, OtherTypes::Written};
+constexpr Program program{types, OtherTypes::Written};
 
 }  // namespace
 

@@ -8,11 +8,11 @@ namespace {
 
 constexpr OptionNumber options[] = {0, 6, 36, 37, 38, 39, 40, 41, 42};
 
-constexpr Variant variants[] = {
-    variant<vibr::EarthquakeData>(EchoData::VIBR, options),
+constexpr ServedType types[] = {
+    serves<vibr::EarthquakeData>(EchoData::VIBR, options),
 };
 
-constexpr Program program{variants, OtherTypes::Written};
+constexpr Program program{types, OtherTypes::Written};
 
 }  // namespace
 

@@ -9,7 +9,8 @@ done <<'RULES'
 apps/echohost         apps/echotable/|echo/|properties/|platform/|nextgen/
 echo                  apps/
 properties            apps/|echo/|platform/|tiv/
-properties/container  properties/(nextgen|qt|translation)/|nextgen/|bond/|Q
+properties/container  properties/(definitions|qt|translation)/|nextgen/|bond/|Q
+properties/definitions  apps/|echo/|platform/|properties/qt/src/|QWidget
 bond                  apps/|echo/|platform/|tiv/|properties/|nextgen/|Q
 platform              apps/|echo/|tiv/echo/|properties/|nextgen/|bond/
 platform/dbo          Q

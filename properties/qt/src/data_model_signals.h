@@ -2,7 +2,7 @@
 #pragma once
 
 #include "properties/container/model.h"
-#include "properties/nextgen/selection_manager.h"
+#include "properties/definitions/selection_manager.h"
 
 #include <boost/signals2/connection.hpp>
 

@@ -2,7 +2,7 @@
 // and give it back, through their user property.
 #pragma once
 
-#include "properties/nextgen/property.h"
+#include "properties/definitions/property.h"
 
 #include <QElapsedTimer>
 #include <QFrame>

@@ -1,9 +1,9 @@
 #include "properties/qt/src/qt_inspector_widget.h"
 
+#include "properties/definitions/validators.h"
 #include "properties/qt/src/property_delegate.h"
 #include "properties/qt/src/property_view.h"
 #include "properties/qt/src/record_item_model.h"
-#include "properties/qt/src/validators.h"
 
 #include <QAccessible>
 #include <QAction>

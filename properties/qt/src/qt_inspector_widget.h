@@ -12,8 +12,8 @@
 //     Ctrl+C    the selected rows as text    Ctrl+V    the settings in the clipboard
 #pragma once
 
-#include "properties/nextgen/property.h"
-#include "properties/nextgen/selection_manager.h"
+#include "properties/definitions/property.h"
+#include "properties/definitions/selection_manager.h"
 
 #include <QPointer>
 #include <QUndoStack>

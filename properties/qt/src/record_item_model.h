@@ -2,7 +2,7 @@
 // asked for. Holds no values; edits do not come here but go to the record, which tells.
 #pragma once
 
-#include "properties/nextgen/property.h"
+#include "properties/definitions/property.h"
 #include "properties/qt/src/data_model_signals.h"
 
 #include <QAbstractTableModel>

@@ -19,7 +19,7 @@
 //     editor.kind                                    "named_value_list", or the Editor attribute's text
 #pragma once
 
-#include "properties/nextgen/property.h"
+#include "properties/definitions/property.h"
 
 namespace tiv::properties {
 

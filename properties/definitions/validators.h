@@ -1,7 +1,7 @@
 // What a property accepts, by "validator.kind".
 #pragma once
 
-#include "properties/nextgen/property.h"
+#include "properties/definitions/property.h"
 
 #include <QString>
 #include <QVariant>

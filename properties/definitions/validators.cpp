@@ -1,4 +1,4 @@
-#include "properties/qt/src/validators.h"
+#include "properties/definitions/validators.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,4 +1,4 @@
-#include "properties/nextgen/property.h"
+#include "properties/definitions/property.h"
 
 #include "bond/member.h"
 

@@ -2,8 +2,8 @@
 // record's description; the texts are those of the description and live as long as the process.
 #pragma once
 
-#include "properties/nextgen/configuration.h"
-#include "properties/nextgen/record_access.h"
+#include "properties/definitions/configuration.h"
+#include "properties/definitions/record_access.h"
 #include "properties/translation/xlator.h"
 
 #include <QString>

@@ -1,4 +1,4 @@
-#include "properties/nextgen/configuration.h"
+#include "properties/definitions/configuration.h"
 
 #include <algorithm>
 #include <stdexcept>

@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
-# Cross-builds for 64-bit Windows what the project needs, from Debian's sources: Qt, Boost.Locale, SQLite and
-# GoogleTest. They come into one prefix in a cache folder, a new one when this script or a version changes;
-# <link> is made to name it. A step that is done leaves a stamp and is not done again. Takes half an
-# hour on two cores, most of it for Qt.
+# Cross-builds the dependencies for 64-bit Windows from Debian's sources: Qt, Boost.Locale, SQLite and GoogleTest.
+# They are installed into one prefix in a cache folder; a change of this script or of a version gets a new folder.
+# <link> becomes a symbolic link to it. A finished step leaves a stamp and is not repeated. Takes half an hour on
+# two cores, most of it for Qt.
 #
 #   dependencies.sh <link>
 set -euo pipefail
@@ -16,13 +16,13 @@ folder=${XDG_CACHE_HOME:-$HOME/.cache}/tiv_echotable/windows/$key
 mkdir -p "$folder"/{apt/lists/partial,bin,include,lib/cmake,licenses,logs,stamps,tools} "$(dirname "$1")"
 ln -sfn "$folder" "$1"
 
-# Of the two variants of the compiler the one with std::thread, also where the other is the default.
+# Use the compiler variant with std::thread, even where the other one is the default.
 for compiler in gcc g++; do
     ln -sf "$(command -v "$host-$compiler-posix")" "$folder/tools/$host-$compiler"
 done
 PATH=$folder/tools:$PATH
 
-# The sources of the Debian archive that the machine uses, whether or not its own lists name them.
+# Fetch sources from the machine's own Debian archive, even if its lists do not name sources.
 configuration=$folder/apt/apt.conf
 if [ ! -e "$configuration" ]; then
     # shellcheck disable=SC2016 # apt-get expands
@@ -43,7 +43,7 @@ export APT_CONFIG=$configuration
 log=/dev/null
 trap '[ $? = 0 ] || tail -n 30 "$log" >&2' EXIT
 
-step() { # <name>: does build_<name> once, in a folder of its own that is removed afterwards
+step() { # <name>: runs build_<name> once, in a temporary folder
     local stamp=$folder/stamps/$1 scratch=$folder/scratch/$1
     [ ! -e "$stamp" ] || return 0
     log=$folder/logs/$1
@@ -66,7 +66,7 @@ build_lists() {
     apt-get update -q
 }
 
-# What a program built by the compiler needs beside it.
+# The compiler's runtime libraries, which a program needs beside it.
 build_runtime() {
     local library
     for library in libgcc_s_seh-1 libstdc++-6 libwinpthread-1; do
@@ -84,7 +84,7 @@ build_sqlite() {
     cp source/sqlite3.h "$folder/include"
 }
 
-# The headers are the host's, by links: its whole include folder must not be on the path.
+# Symlink Boost's headers only; adding /usr/include would pull in host headers.
 build_boost() {
     ln -sfn /usr/include/boost /usr/include/rapidjson "$folder/include"
     cp /usr/share/doc/rapidjson-dev/copyright "$folder/licenses/rapidjson"
@@ -117,7 +117,7 @@ build_qt() {
         -no-feature-vulkan -no-feature-vkgen
     make -j "$jobs"
     make install
-    # The tools for catalogues are the host's.
+    # Linguist tools: use the host's.
     ln -sfn "/usr/lib/$(dpkg-architecture -q DEB_HOST_MULTIARCH)/cmake/Qt5LinguistTools" "$folder/lib/cmake"
 }
 

@@ -4,9 +4,13 @@
 
 #include <sqlite3.h>
 
+#include <algorithm>
+#include <cstdlib>
 #include <filesystem>
+#include <limits>
 #include <map>
 #include <memory>
+#include <mutex>
 #include <stdexcept>
 #include <utility>
 
@@ -17,10 +21,9 @@ constexpr int applicationId = 0x54495650;  // "TIVP"
 constexpr int projectFormat = 1;
 constexpr const char* temporary = ":memory:";
 
-constexpr const char* emptyProject =
+constexpr const char* emptyTables =
     "CREATE TABLE elements(kind INTEGER PRIMARY KEY,"
     "    count INTEGER NOT NULL CHECK(count BETWEEN 0 AND 2147483647));"
-    "INSERT INTO elements VALUES (0, 0), (1, 0), (2, 0), (3, 0), (4, 0);"
     "CREATE TABLE tasks(id INTEGER PRIMARY KEY, name TEXT NOT NULL UNIQUE,"
     "    program_type INTEGER NOT NULL, settings TEXT NOT NULL);";
 
@@ -36,10 +39,13 @@ struct Project {
     Statement count;  // of one kind of element; destroyed before its connection
 };
 
+std::mutex projectsMutex;  // for the three below; a project itself belongs to one thread
 std::map<int, Project> projects;
 int lastHandle = 0;
+std::chrono::milliseconds busyTimeout{500};
 
 Project* find(int database) {
+    const std::lock_guard lock(projectsMutex);
     const auto found = projects.find(database);
     if (found != projects.end()) return &found->second;
     smartassert::SmartAssert(R"(0 && "invalid database handle")", "platform/dbo/dbo", 40);
@@ -50,9 +56,13 @@ Project* find(int database) {
     throw std::runtime_error(path + ": " + reason);
 }
 
-// Passes on what SQLite says, unless all is well.
+// Throws SQLite's error message unless `result` is SQLITE_OK.
 void check(const Project& project, int result) {
     if (result != SQLITE_OK) refuse(project.path, sqlite3_errmsg(project.connection.get()));
+}
+
+void execute(const Project& project, const char* sql) {
+    check(project, sqlite3_exec(project.connection.get(), sql, nullptr, nullptr, nullptr));
 }
 
 Statement prepare(const Project& project, const char* sql) {
@@ -61,7 +71,7 @@ Statement prepare(const Project& project, const char* sql) {
     return Statement(statement);
 }
 
-// Whether there is a row; the statement stands on it then.
+// Steps to the next row; false at the end.
 bool step(const Project& project, const Statement& statement) {
     const int result = sqlite3_step(statement.get());
     if (result != SQLITE_ROW && result != SQLITE_DONE) check(project, result);
@@ -72,10 +82,18 @@ void bindText(const Statement& statement, int place, const std::string& text) {
     sqlite3_bind_text64(statement.get(), place, text.data(), text.size(), SQLITE_STATIC, SQLITE_UTF8);
 }
 
+// Binds the name, program type and settings to three places from `place` on.
+void bindTask(const Statement& statement, int place, const Task& task) {
+    bindText(statement, place, task.name);
+    sqlite3_bind_int(statement.get(), place + 1, task.programType);
+    bindText(statement, place + 2, task.settings);
+}
+
 std::string textOf(const Statement& statement, int column) {
-    const void* bytes = sqlite3_column_blob(statement.get(), column);
-    const int size = sqlite3_column_bytes(statement.get(), column);
-    return {static_cast<const char*>(bytes), static_cast<std::size_t>(size)};
+    // Converts from UTF-16 where the file has it.
+    const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement.get(), column));
+    const auto size = static_cast<std::size_t>(sqlite3_column_bytes(statement.get(), column));
+    return text ? std::string(text, size) : std::string();
 }
 
 int numberOf(const Project& project, const char* pragma) {
@@ -87,6 +105,34 @@ std::filesystem::path fileOf(const std::string& path) {
     return std::u8string(path.begin(), path.end());
 }
 
+// The full path of the project's file, also after a change of the working directory; empty for a temporary
+// project.
+std::filesystem::path openFileOf(const Project& project) {
+    return fileOf(sqlite3_db_filename(project.connection.get(), "main"));
+}
+
+// Rolled back unless committed.
+class Transaction {
+ public:
+    explicit Transaction(const Project& project) : project_(project) { execute(project_, "BEGIN IMMEDIATE"); }
+    Transaction(const Transaction&) = delete;
+    Transaction& operator=(const Transaction&) = delete;
+    ~Transaction() {
+        sqlite3* connection = project_.connection.get();
+        if (!sqlite3_get_autocommit(connection))
+            sqlite3_exec(connection, "ROLLBACK", nullptr, nullptr, nullptr);
+    }
+    void commit() { execute(project_, "COMMIT"); }
+
+ private:
+    const Project& project_;
+};
+
+void setTimeout(const Project& project) {
+    const auto most = std::chrono::milliseconds(std::numeric_limits<int>::max());
+    sqlite3_busy_timeout(project.connection.get(), static_cast<int>(std::min(busyTimeout, most).count()));
+}
+
 Project connect(const std::string& path, int flags) {
     // SQLite may be built to read "file:x?mode=memory" as an address.
     const std::string name = path.starts_with("file:") ? "./" + path : path;
@@ -94,21 +140,98 @@ Project connect(const std::string& path, int flags) {
     const int result = sqlite3_open_v2(name.c_str(), &connection, flags, nullptr);
     Project project{path, std::unique_ptr<sqlite3, Release>(connection), nullptr};
     check(project, result);
-    check(project, sqlite3_busy_timeout(connection, 500));
+    for (const auto& [option, value] : {
+             std::pair{SQLITE_DBCONFIG_ENABLE_VIEW, 0},
+             {SQLITE_DBCONFIG_ENABLE_TRIGGER, 0},
+             {SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0},
+             {SQLITE_DBCONFIG_DEFENSIVE, 1},
+         })
+        check(project, sqlite3_db_config(connection, option, value, nullptr));
+    const std::lock_guard lock(projectsMutex);
+    setTimeout(project);
     return project;
 }
 
 int keep(Project project) {
     project.count = prepare(project, "SELECT count FROM elements WHERE kind = ?");
+    const std::lock_guard lock(projectsMutex);
     projects.emplace(++lastHandle, std::move(project));
     return lastHandle;
 }
 
-void writeEmptyProject(const Project& project) {
-    const std::string script = "BEGIN IMMEDIATE; PRAGMA application_id = " + std::to_string(applicationId) +
-                               "; PRAGMA user_version = " + std::to_string(projectFormat) + ";" +
-                               emptyProject + "COMMIT;";
-    check(project, sqlite3_exec(project.connection.get(), script.c_str(), nullptr, nullptr, nullptr));
+// Throws "already exists" unless the number that the pragma reads is 0. Any other file than a database exists,
+// too.
+void requireNone(const Project& project, const char* pragma) {
+    int number = 0;
+    const auto read = [](void* into, int, char** values, char**) {
+        *static_cast<int*>(into) = std::atoi(values[0]);
+        return 0;
+    };
+    const int result = sqlite3_exec(project.connection.get(), pragma, read, &number, nullptr);
+    if (result == SQLITE_NOTADB || number != 0) refuse(project.path, "already exists");
+    check(project, result);
+}
+
+// Throws unless the file that is open is the one at its path. Windows does not let it be another one.
+void requireSameFile(const Project& project) {
+    int moved = 0;
+    sqlite3_file_control(project.connection.get(), "main", SQLITE_FCNTL_HAS_MOVED, &moved);
+    if (moved == 0) return;
+    std::error_code ignored;
+    const bool exists = std::filesystem::exists(openFileOf(project), ignored);
+    refuse(project.path, exists ? "the file was replaced" : "no such file");
+}
+
+void writeProject(const Project& project, const ElementCounts& counts) {
+    const std::string header = "PRAGMA application_id = " + std::to_string(applicationId) +
+                               "; PRAGMA user_version = " + std::to_string(projectFormat) + ";";
+    Transaction transaction(project);
+    requireNone(project, "PRAGMA schema_version");  // an empty file has its first page by now
+    execute(project, header.c_str());
+    execute(project, emptyTables);
+    const Statement insert = prepare(project, "INSERT INTO elements VALUES (?, ?)");
+    for (int kind = 0; kind < static_cast<int>(counts.size()); ++kind) {
+        sqlite3_bind_int(insert.get(), 1, kind);
+        sqlite3_bind_int(insert.get(), 2, counts[static_cast<std::size_t>(kind)]);
+        step(project, insert);
+        sqlite3_reset(insert.get());
+    }
+    transaction.commit();
+    requireSameFile(project);
+}
+
+// Removes the empty file that a failed createProject has made. No other creator can commit to it while it is
+// read here; one that commits later finds out that its file is gone.
+void removeEmptyFile(const Project& project) try {
+    execute(project, "BEGIN");
+    requireNone(project, "PRAGMA page_count");
+    std::error_code ignored;
+    std::filesystem::remove(openFileOf(project), ignored);
+} catch (const std::runtime_error&) {  // another creator's file
+}
+
+// The project to write to; null for an unknown handle.
+const Project* findToChange(int database) {
+    const Project* project = find(database);
+    if (project) requireSameFile(*project);
+    return project;
+}
+
+void requireSound(const Project& project, const char* pragma) {
+    const Statement sound = prepare(project, pragma);
+    if (!step(project, sound) || textOf(sound, 0) != "ok") refuse(project.path, "the file is damaged");
+}
+
+void requireCounts(const Project& project) {
+    const Statement row = prepare(project,
+        "SELECT 1 FROM elements WHERE kind = ? AND typeof(count) = 'integer'"
+        " AND count BETWEEN 0 AND 2147483647");
+    int kind = 0;
+    for (const char* name : {"quads", "brics", "beams", "cables", "springs"}) {
+        sqlite3_bind_int(row.get(), 1, kind++);
+        if (!step(project, row)) refuse(project.path, std::string("invalid number of ") + name);
+        sqlite3_reset(row.get());
+    }
 }
 
 bool has(int database, ElementKind kind, int* count) {
@@ -146,18 +269,26 @@ bool hasSprings(int database, int* count) {
 }
 
 int createProject(const std::string& path) {
-    std::error_code ignored;
-    // SQLite would make a temporary database of none, and leave out what ends a name.
+    return createProject(path, {});
+}
+
+int createProject(const std::string& path, const ElementCounts& counts) {
+    for (const int count : counts) {
+        if (count < 0)
+            throw std::invalid_argument("Elements: expected 0 or more, got " + std::to_string(count) + ".");
+    }
+    // An empty name would open a temporary database, and SQLite cuts names off at NUL.
     if (fileOf(path).filename().empty() || path.find('\0') != std::string::npos) refuse(path, "no file name");
-    if (path != temporary && std::filesystem::exists(fileOf(path), ignored)) refuse(path, "already exists");
+    std::error_code ignored;
+    const auto status = std::filesystem::status(fileOf(path), ignored);
+    const bool isNew = path == temporary || !std::filesystem::exists(status);
+    if (!isNew && !std::filesystem::is_regular_file(status)) refuse(path, "already exists");
     Project project = connect(path, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
-    // SQLite may find a file where the system finds none: in "nowhere/..".
-    if (numberOf(project, "PRAGMA page_count") != 0) refuse(path, "already exists");
+    requireNone(project, "PRAGMA page_count");
     try {
-        writeEmptyProject(project);
+        writeProject(project, counts);
     } catch (...) {
-        project.connection.reset();
-        if (std::filesystem::is_empty(fileOf(path), ignored)) std::filesystem::remove(fileOf(path), ignored);
+        if (isNew) removeEmptyFile(project);
         throw;
     }
     return keep(std::move(project));
@@ -176,7 +307,18 @@ int openProject(const std::string& path) {
         refuse(
             path, "project format " + std::to_string(format) + ", expected " + std::to_string(projectFormat));
     }
+    execute(project, "PRAGMA cell_size_check = 1");
+    requireSound(project, "PRAGMA integrity_check(sqlite_schema)");
+    requireSound(project, "PRAGMA integrity_check(elements)");
+    requireSound(project, "PRAGMA integrity_check(tasks)");
+    requireCounts(project);
     return keep(std::move(project));
+}
+
+void setBusyTimeout(std::chrono::milliseconds wait) {
+    const std::lock_guard lock(projectsMutex);
+    busyTimeout = wait;
+    for (const auto& [handle, project] : projects) setTimeout(project);
 }
 
 void addElements(int database, ElementKind kind, int count) {
@@ -184,7 +326,7 @@ void addElements(int database, ElementKind kind, int count) {
         throw std::invalid_argument(
             "Elements to add: expected 1 or more, got " + std::to_string(count) + ".");
     }
-    const Project* project = find(database);
+    const Project* project = findToChange(database);
     if (!project) return;
     const Statement add = prepare(
         *project, "UPDATE elements SET count = count + ?1 WHERE kind = ?2 AND count <= 2147483647 - ?1");
@@ -198,7 +340,9 @@ void addElements(int database, ElementKind kind, int count) {
 }
 
 void closeProject(int database) {
-    if (find(database)) projects.erase(database);
+    if (!find(database)) return;
+    const std::lock_guard lock(projectsMutex);
+    projects.erase(database);
 }
 
 std::vector<Task> tasks(int database) {
@@ -213,24 +357,62 @@ std::vector<Task> tasks(int database) {
 }
 
 void storeTask(int database, const Task& task) {
-    const Project* project = find(database);
+    const Project* project = findToChange(database);
     if (!project) return;
     const Statement store = prepare(*project,
         "INSERT INTO tasks(name, program_type, settings) VALUES (?, ?, ?) ON CONFLICT(name)"
         " DO UPDATE SET program_type = excluded.program_type, settings = excluded.settings");
-    bindText(store, 1, task.name);
-    sqlite3_bind_int(store.get(), 2, task.programType);
-    bindText(store, 3, task.settings);
+    bindTask(store, 1, task);
     step(*project, store);
 }
 
 bool removeTask(int database, const std::string& name) {
-    const Project* project = find(database);
+    const Project* project = findToChange(database);
     if (!project) return false;
     const Statement remove = prepare(*project, "DELETE FROM tasks WHERE name = ?");
     bindText(remove, 1, name);
     step(*project, remove);
     return sqlite3_changes(project->connection.get()) > 0;
+}
+
+std::vector<std::string> changeTasks(int database, const std::vector<TaskChange>& changes) {
+    const Project* project = findToChange(database);
+    if (!project) return {};
+    Transaction transaction(*project);
+    std::vector<std::string> conflicts;
+    const Statement take = prepare(
+        *project, "DELETE FROM tasks WHERE name = ? AND program_type = ? AND settings = ? RETURNING id");
+    const Statement put = prepare(*project,
+        "INSERT INTO tasks(id, name, program_type, settings) VALUES (?, ?, ?, ?)"
+        " ON CONFLICT(name) DO NOTHING");
+    const auto insert = [&](const Task& task) {  // with the bound id
+        bindTask(put, 2, task);
+        step(*project, put);
+        if (sqlite3_changes(project->connection.get()) == 0) conflicts.push_back(task.name);
+        sqlite3_reset(put.get());
+    };
+
+    // All tasks that change are taken out first, so that they can exchange their names. They come back before
+    // new ones, whose ids must be greater than theirs.
+    std::vector<std::pair<sqlite3_int64, const Task*>> changed;
+    for (const auto& [before, after] : changes) {
+        if (!before) continue;
+        bindTask(take, 1, *before);
+        if (!step(*project, take))
+            conflicts.push_back(before->name);
+        else if (after)
+            changed.emplace_back(sqlite3_column_int64(take.get(), 0), &*after);
+        sqlite3_reset(take.get());
+    }
+    for (const auto& [id, task] : changed) {
+        sqlite3_bind_int64(put.get(), 1, id);
+        insert(*task);
+    }
+    sqlite3_bind_null(put.get(), 1);
+    for (const auto& [before, after] : changes)
+        if (!before && after) insert(*after);
+    if (conflicts.empty()) transaction.commit();
+    return conflicts;
 }
 
 }  // namespace tiv::dbo

@@ -20,12 +20,15 @@ namespace {
 constexpr int applicationId = 0x54495650;  // "TIVP"
 constexpr int projectFormat = 1;
 constexpr const char* temporary = ":memory:";
+constexpr const char* damaged = "the file is damaged";
 
 constexpr const char* emptyTables =
     "CREATE TABLE elements(kind INTEGER PRIMARY KEY,"
     "    count INTEGER NOT NULL CHECK(count BETWEEN 0 AND 2147483647));"
     "CREATE TABLE tasks(id INTEGER PRIMARY KEY, name TEXT NOT NULL UNIQUE,"
     "    program_type INTEGER NOT NULL, settings TEXT NOT NULL);";
+
+constexpr const char* readTasks = "SELECT name, program_type, settings FROM tasks ORDER BY id";
 
 struct Release {
     void operator()(sqlite3* connection) const { sqlite3_close(connection); }
@@ -56,8 +59,9 @@ Project* find(int database) {
     throw std::runtime_error(path + ": " + reason);
 }
 
-// Throws SQLite's error message unless `result` is SQLITE_OK.
+// Throws SQLite's error message unless `result` is SQLITE_OK. The messages on damage quote damaged bytes.
 void check(const Project& project, int result) {
+    if (result == SQLITE_CORRUPT) refuse(project.path, damaged);
     if (result != SQLITE_OK) refuse(project.path, sqlite3_errmsg(project.connection.get()));
 }
 
@@ -219,7 +223,15 @@ const Project* findToChange(int database) {
 
 void requireSound(const Project& project, const char* pragma) {
     const Statement sound = prepare(project, pragma);
-    if (!step(project, sound) || textOf(sound, 0) != "ok") refuse(project.path, "the file is damaged");
+    if (!step(project, sound) || textOf(sound, 0) != "ok") refuse(project.path, damaged);
+}
+
+// A view of the name is no table.
+void requireTable(const Project& project, const char* name) {
+    const Statement table =
+        prepare(project, "SELECT 1 FROM sqlite_schema WHERE type = 'table' AND name = ? COLLATE NOCASE");
+    sqlite3_bind_text(table.get(), 1, name, -1, SQLITE_STATIC);
+    if (!step(project, table)) refuse(project.path, std::string("no such table: ") + name);
 }
 
 void requireCounts(const Project& project) {
@@ -301,17 +313,21 @@ int openProject(const std::string& path) {
     if (!std::filesystem::exists(status)) refuse(path, "no such file");
     if (!std::filesystem::is_regular_file(status)) refuse(path, "not a file");
     Project project = connect(path, SQLITE_OPEN_READWRITE);
+    execute(project, "PRAGMA cell_size_check = 1; BEGIN");
     if (numberOf(project, "PRAGMA application_id") != applicationId) refuse(path, "not a project");
     const int format = numberOf(project, "PRAGMA user_version");
     if (format != projectFormat) {
         refuse(
             path, "project format " + std::to_string(format) + ", expected " + std::to_string(projectFormat));
     }
-    execute(project, "PRAGMA cell_size_check = 1");
     requireSound(project, "PRAGMA integrity_check(sqlite_schema)");
+    requireTable(project, "elements");
+    requireTable(project, "tasks");
+    requireCounts(project);
+    prepare(project, readTasks);
     requireSound(project, "PRAGMA integrity_check(elements)");
     requireSound(project, "PRAGMA integrity_check(tasks)");
-    requireCounts(project);
+    execute(project, "COMMIT");
     return keep(std::move(project));
 }
 
@@ -349,7 +365,7 @@ std::vector<Task> tasks(int database) {
     std::vector<Task> result;
     const Project* project = find(database);
     if (!project) return result;
-    const Statement rows = prepare(*project, "SELECT name, program_type, settings FROM tasks ORDER BY id");
+    const Statement rows = prepare(*project, readTasks);
     while (step(*project, rows)) {
         result.push_back({textOf(rows, 0), sqlite3_column_int(rows.get(), 1), textOf(rows, 2)});
     }

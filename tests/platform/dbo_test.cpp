@@ -11,6 +11,8 @@
 #include <sqlite3.h>
 
 #include <filesystem>
+#include <fstream>
+#include <thread>
 
 namespace tiv::dbo {
 namespace {
@@ -41,6 +43,7 @@ class Project : public testing::Test {
         EXPECT_EQ(sqlite3_exec(connection, sql, nullptr, nullptr, nullptr), SQLITE_OK) << sql;
         return {connection, &sqlite3_close};
     }
+    std::string stored() const { return contentOf(database).substr(sizeof "-0 -0 -0 -0 -0"); }
 
     const QTemporaryDir folder;
     const std::string path = file("Brücke 橋.tiv");
@@ -50,6 +53,8 @@ class Project : public testing::Test {
 TEST_F(Project, isCreatedOnlyWhereNoFileIsAndOpenedOnlyFromAProjectFile) {
     const std::string blocked = file("blocked");
     std::filesystem::create_directory(blocked + "-journal");
+    std::ofstream(file("text")) << "text";
+    storeTask(database, {"one task", 3, "CgAA"});
     const struct {
         int (*call)(const std::string&);
         std::string path;
@@ -62,15 +67,46 @@ TEST_F(Project, isCreatedOnlyWhereNoFileIsAndOpenedOnlyFromAProjectFile) {
         {createProject, path + "/", "no file name"},
         {createProject, blocked, "unable to open database file"},
         {openProject, blocked, "no such file"},
+        {createProject, file("text"), "already exists"},
+        {createProject, folder.path().toStdString(), "already exists"},
         {openProject, folder.path().toStdString(), "not a file"},
         {openProject, file("other"), "not a project", "PRAGMA application_id = 0"},
         {createProject, file("nowhere/../other"), "already exists"},
+        {openProject, file("newer"), "project format 2, expected 1", "PRAGMA user_version = 2"},
         {openProject, file("less"), "no such table: elements", "DROP TABLE elements"},
+        {openProject, file("view"), "no such table: tasks",
+            "DROP TABLE tasks; CREATE VIEW tasks AS WITH RECURSIVE endless(name) AS (VALUES ('') UNION ALL"
+            " SELECT '' FROM endless) SELECT name, 0 AS id, 3 AS program_type, '' AS settings FROM endless"},
+        {openProject, file("missing"), "invalid number of cables", "DELETE FROM elements WHERE kind = 3"},
+        {openProject, file("negative"), "invalid number of brics",
+            "PRAGMA ignore_check_constraints = 1; UPDATE elements SET count = -1 WHERE kind = 1"},
+        {openProject, file("great"), "invalid number of springs",
+            "PRAGMA ignore_check_constraints = 1; UPDATE elements SET count = 2147483648 WHERE kind = 4"},
+        {openProject, file("words"), "invalid number of quads",
+            "PRAGMA ignore_check_constraints = 1; UPDATE elements SET count = 'many' WHERE kind = 0"},
     };
     for (const auto& row : rows) {
         if (row.sql) QFile::copy(path.c_str(), row.path.c_str()), execute(row.path, row.sql);
         EXPECT_EQ(failureOf([&] { row.call(row.path); }), row.path + ": " + row.reason);
     }
+    QFile damaged(path.c_str());
+    ASSERT_TRUE(damaged.open(QFile::ReadWrite));
+    damaged.seek(damaged.readAll().indexOf("one task"));
+    damaged.write("two"), damaged.close();
+    EXPECT_EQ(failureOf([&] { openProject(path); }), path + ": the file is damaged");
+}
+
+TEST_F(Project, isCreatedWithItsElementsAlsoInAnEmptyFile) {
+    const std::string empty = file("empty");
+    EXPECT_EQ(failureOf<std::invalid_argument>([&] {
+        createProject(empty, {0, 0, -1, 0, 0});
+    }),
+        "Elements: expected 0 or more, got -1.");
+    EXPECT_FALSE(std::filesystem::exists(empty));
+    std::ofstream{empty};
+    EXPECT_EQ(failureOf([&] { openProject(empty); }), empty + ": not a project");
+    closeProject(std::exchange(database, createProject(empty, {1, 0, 3, 4, 2147483647})));
+    EXPECT_EQ(contentOf(database), "+1 -0 +3 +4 +2147483647 ");
 }
 
 TEST_F(Project, keepsElementsAndTasksInOrderAndByteForByte) {
@@ -99,13 +135,59 @@ TEST_F(Project, keepsElementsAndTasksInOrderAndByteForByte) {
     EXPECT_EQ(contentOf(again), "+5 -0 +1 +7 +2147483647 [b|4|" + odd + "][" + odd + "|-1|" + odd + "]");
 }
 
-#if !defined(_WIN32)  // where no file may have such a name
+TEST_F(Project, inUtf16ShowsItsTexts) {
+    const std::string wide = file("wide");
+    const std::string sql =
+        "PRAGMA encoding = 'UTF-16'; PRAGMA application_id = 1414092368;"
+        "PRAGMA user_version = 1; CREATE TABLE elements(kind INTEGER PRIMARY KEY, count);"
+        "INSERT INTO elements VALUES (0, 1), (1, 1), (2, 1), (3, 1), (4, 1);"
+        "CREATE TABLE tasks(id INTEGER PRIMARY KEY, name UNIQUE, program_type, settings);"
+        "INSERT INTO tasks VALUES (1, '橋', 3, 'CgAA')";
+    execute(wide, sql.c_str());
+    closeProject(std::exchange(database, openProject(wide)));
+    EXPECT_EQ(stored(), "[橋|3|CgAA]");
+}
+
+TEST_F(Project, changesAllTasksOrNone) {
+    const Task a{"a", 1, "A"}, b{"b", 2, "B"}, c{"c", 3, "C"}, d{"d", 4, "D"};
+    for (const Task& task : {a, b, c}) storeTask(database, task);
+    const struct {
+        std::vector<TaskChange> changes;
+        const char* stored;
+        std::vector<std::string> conflicts;
+    } rows[] = {
+        {{{a, Task{"a", 1, "A2"}}, {Task{"b", 2, "old"}, b}}, "[a|1|A][b|2|B][c|3|C]", {"b"}},
+        {{{a, Task{"a", 1, "A2"}}, {Task{"b", 7, "B"}, b}}, "[a|1|A][b|2|B][c|3|C]", {"b"}},
+        {{{b, {}}, {a, c}, {d, {}}, {{}, c}}, "[a|1|A][b|2|B][c|3|C]", {"d", "c", "c"}},
+        {{{{}, d}, {a, Task{"b", 1, "A"}}, {b, Task{"a", 2, "B"}}, {c, {}}}, "[b|1|A][a|2|B][d|4|D]", {}},
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(changeTasks(database, row.changes), row.conflicts);
+        EXPECT_EQ(stored(), row.stored);
+    }
+}
+
+#if !defined(_WIN32)  // where no file has such a name, and no open file is moved
 TEST_F(Project, mayHaveAnAddressForItsName) {
     const std::string name = "file:x?mode=memory";
     QDir::setCurrent(folder.path());
     closeProject(createProject(name));
     QDir::setCurrent("/");
     EXPECT_TRUE(std::filesystem::exists(file(name.c_str())));
+}
+
+TEST_F(Project, isNotWrittenToAfterItsFileWasMovedOrReplaced) {
+    std::filesystem::rename(path, file("moved"));
+    for (const char* reason : {": no such file", ": the file was replaced"}) {
+        EXPECT_EQ(failureOf([&] { addElements(database, ElementKind::Quads, 1); }), path + reason);
+        EXPECT_EQ(failureOf([&] { storeTask(database, {"a", 1, ""}); }), path + reason);
+        EXPECT_EQ(failureOf([&] { removeTask(database, "a"); }), path + reason);
+        EXPECT_EQ(failureOf([&] { changeTasks(database, {}); }), path + reason);
+        EXPECT_EQ(contentOf(database), "-0 -0 -0 -0 -0 ");
+        std::ofstream{path};
+    }
+    std::filesystem::rename(file("moved"), path);
+    EXPECT_FALSE(removeTask(database, "a")) << "it is back";
 }
 #endif
 
@@ -115,8 +197,26 @@ TEST_F(Project, lockedByAnotherProgramSaysSoAndStaysAsItIs) {
     EXPECT_EQ(failureOf([&] { openProject(path); }), locked);
     EXPECT_EQ(failureOf([&] { hasQuads(database, nullptr); }), locked);
     EXPECT_EQ(failureOf([&] { addElements(database, ElementKind::Quads, 1); }), locked);
+    EXPECT_EQ(failureOf([&] { changeTasks(database, {{{}, Task{"a", 1, ""}}}); }), locked);
     other.reset();
     EXPECT_EQ(contentOf(database), "-0 -0 -0 -0 -0 ");
+}
+
+TEST_F(Project, waitsForAnotherProgramAsLongAsSet) {
+    setBusyTimeout(std::chrono::seconds(20));
+    const auto writer = execute(path, "BEGIN EXCLUSIVE; UPDATE elements SET count = 8 WHERE kind = 0");
+    const auto creator = execute(file("raced"), "BEGIN IMMEDIATE; CREATE TABLE elements(kind)");
+    std::thread commits([&] {
+        for (const auto& connection : {writer, creator}) {
+            std::this_thread::sleep_for(std::chrono::milliseconds(700));
+            sqlite3_exec(connection.get(), "COMMIT", nullptr, nullptr, nullptr);
+        }
+    });
+    addElements(database, ElementKind::Quads, 1);
+    EXPECT_EQ(failureOf([&] { createProject(file("raced")); }), file("raced") + ": already exists");
+    commits.join();
+    EXPECT_EQ(contentOf(database), "+9 -0 -0 -0 -0 ");
+    setBusyTimeout(std::chrono::milliseconds(500));
 }
 
 TEST(Handle, thatIsUnknownIsReportedOncePerCallAndHarmless) {
@@ -130,9 +230,10 @@ TEST(Handle, thatIsUnknownIsReportedOncePerCallAndHarmless) {
     EXPECT_TRUE(tasks(closed).empty());
     addElements(closed, ElementKind::Brics, 1);
     storeTask(closed, {"name", 3, "text"});
+    EXPECT_TRUE(changeTasks(closed, {{{}, Task{"name", 3, "text"}}}).empty());
     closeProject(closed);
     EXPECT_EQ(
-        test::takeReports(), test::Reports(6, R"(0 && "invalid database handle" at platform/dbo/dbo:40)"));
+        test::takeReports(), test::Reports(7, R"(0 && "invalid database handle" at platform/dbo/dbo:40)"));
     EXPECT_EQ(count, 0);
     EXPECT_EQ(contentOf(open), "-0 -0 -0 -0 -0 ");
 }

@@ -1,7 +1,5 @@
 #include "tiv/smartassert/smart_assert.h"
 
-#include "support/reports.h"
-
 #include <gtest/gtest.h>
 
 namespace tiv::smartassert {
@@ -22,18 +20,6 @@ TEST(SmartAssert, goesToStderrWhereNoReporterTakesIt) {
     EXPECT_EQ(errorOutput([](const Report&) { throw 1; }), line);
     EXPECT_EQ(errorOutput([](const Report&) { SmartAssert("nested", "inner", 8); }),
         "inner:8: assertion failed: nested\n");
-}
-
-TEST(SmartAssert, goesToTheReporterEvenIfThatOneSetsAnother) {
-    std::string heard;
-    const Reporter replacesItself = [&heard, keeper = std::string("0 && \"text\"")](const Report& report) {
-        EXPECT_TRUE(setReporter({}));
-        heard = keeper == report.expression ? keeper : "";
-    };
-    EXPECT_EQ(errorOutput(replacesItself), "");
-    EXPECT_EQ(heard, "0 && \"text\"");
-    SmartAssert("after all this", "some/source", 9);
-    EXPECT_EQ(test::takeReports(), test::Reports({"after all this at some/source:9"}));
 }
 
 }  // namespace

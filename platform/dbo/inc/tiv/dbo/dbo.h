@@ -83,10 +83,13 @@ TIV_DBO_EXPORT int createProject(const std::string& path, const ElementCounts& c
 /// \param path of the file. Its tables are checked, which takes time with the number of tasks, not with the
 ///     size of the model. Views and triggers in the file are disabled.
 /// \returns the handle, for the caller to close.
-/// \throws std::runtime_error "<path>: no such file", "<path>: not a file", "<path>: not a project" (an empty
-///     file or another application's database), "<path>: project format <n>, expected 1" (a newer version's
-///     project), "<path>: the file is damaged", "<path>: invalid number of <quads, brics, beams, cables or
-///     springs>" (missing, not a whole number, or not from 0 to 2147483647).
+/// \throws std::runtime_error with one of the reasons
+///     - "no such file", "not a file";
+///     - "not a project": an empty file or another application's database;
+///     - "project format <n>, expected 1": a newer version's project;
+///     - "the file is damaged", "no such table: <name>";
+///     - "invalid number of <quads, brics, beams, cables or springs>": missing, not a whole number, or not
+///       from 0 to 2147483647.
 TIV_DBO_EXPORT int openProject(const std::string& path);
 
 /// Sets how long a call waits for another process that uses the same file, before it throws "database is

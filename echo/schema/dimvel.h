@@ -21,13 +21,13 @@ struct BrucData {
 
 constexpr auto describe(const BrucProperties*) {
     return bond::record<BrucProperties>("tiv.echo.dimvel.BrucProperties",
-        option("full", &BrucProperties::full, "Default of all other options"),
-        option("para", &BrucProperties::para, "Design parameter"),
-        option("beme", &BrucProperties::beme, "Design results"),
-        option("rtab", &BrucProperties::rtab, "Reinforcement compilation"),
-        option("indx", &BrucProperties::indx, "Steel index"),
-        option("dmom", &BrucProperties::dmom, "Internal forces of the design"),
-        option("punc", &BrucProperties::punc, "Punching checks"));
+        option("full", &BrucProperties::full, QT_TRANSLATE_NOOP("EchoData", "Default of all other options")),
+        option("para", &BrucProperties::para, QT_TRANSLATE_NOOP("EchoData", "Design parameter")),
+        option("beme", &BrucProperties::beme, QT_TRANSLATE_NOOP("EchoData", "Design results")),
+        option("rtab", &BrucProperties::rtab, QT_TRANSLATE_NOOP("EchoData", "Reinforcement compilation")),
+        option("indx", &BrucProperties::indx, QT_TRANSLATE_NOOP("EchoData", "Steel index")),
+        option("dmom", &BrucProperties::dmom, QT_TRANSLATE_NOOP("EchoData", "Internal forces of the design")),
+        option("punc", &BrucProperties::punc, QT_TRANSLATE_NOOP("EchoData", "Punching checks")));
 }
 
 constexpr auto describe(const BrucData*) {
@@ -50,13 +50,13 @@ struct RissData {
 
 constexpr auto describe(const RissProperties*) {
     return bond::record<RissProperties>("tiv.echo.dimvel.RissProperties",
-        option("full", &RissProperties::full, "Default of all other options"),
-        option("para", &RissProperties::para, "Design parameter"),
-        option("beme", &RissProperties::beme, "Design results"),
-        option("rtab", &RissProperties::rtab, "Reinforcement compilation"),
-        option("indx", &RissProperties::indx, "Steel index"),
-        option("sigs", &RissProperties::sigs, "Concrete compressive stress"),
-        option("dehn", &RissProperties::dehn, "Fatigue design"));
+        option("full", &RissProperties::full, QT_TRANSLATE_NOOP("EchoData", "Default of all other options")),
+        option("para", &RissProperties::para, QT_TRANSLATE_NOOP("EchoData", "Design parameter")),
+        option("beme", &RissProperties::beme, QT_TRANSLATE_NOOP("EchoData", "Design results")),
+        option("rtab", &RissProperties::rtab, QT_TRANSLATE_NOOP("EchoData", "Reinforcement compilation")),
+        option("indx", &RissProperties::indx, QT_TRANSLATE_NOOP("EchoData", "Steel index")),
+        option("sigs", &RissProperties::sigs, QT_TRANSLATE_NOOP("EchoData", "Concrete compressive stress")),
+        option("dehn", &RissProperties::dehn, QT_TRANSLATE_NOOP("EchoData", "Fatigue design")));
 }
 
 constexpr auto describe(const RissData*) {

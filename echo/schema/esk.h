@@ -24,16 +24,18 @@ struct Data {
 
 constexpr auto describe(const Properties*) {
     return bond::record<Properties>("tiv.echo.esk.Properties",
-        option("full", &Properties::full, "Default of all options"),
-        option("grp", &Properties::grp, "Group parameters"),
-        option("load", &Properties::load, "Loads"),
-        option("lsum", &Properties::lsum, "Sum of loads"),
-        option("esk_reac", &Properties::esk_reac, "Support reactions"),
-        option("line", &Properties::line, "Distributed support reactions"),
-        option("disp", &Properties::disp, "Displacements"),
-        option("esk_forc", &Properties::esk_forc, "Internal forces and moments"),
-        option("nost", &Properties::nost, "Internal forces and moments at nodes"),
-        option("bedd", &Properties::bedd, "Bedding stresses"));
+        option("full", &Properties::full, QT_TRANSLATE_NOOP("EchoData", "Default of all options")),
+        option("grp", &Properties::grp, QT_TRANSLATE_NOOP("EchoData", "Group parameters")),
+        option("load", &Properties::load, QT_TRANSLATE_NOOP("EchoData", "Loads")),
+        option("lsum", &Properties::lsum, QT_TRANSLATE_NOOP("EchoData", "Sum of loads")),
+        option("esk_reac", &Properties::esk_reac, QT_TRANSLATE_NOOP("EchoData", "Support reactions")),
+        option("line", &Properties::line, QT_TRANSLATE_NOOP("EchoData", "Distributed support reactions")),
+        option("disp", &Properties::disp, QT_TRANSLATE_NOOP("EchoData", "Displacements")),
+        option(
+            "esk_forc", &Properties::esk_forc, QT_TRANSLATE_NOOP("EchoData", "Internal forces and moments")),
+        option(
+            "nost", &Properties::nost, QT_TRANSLATE_NOOP("EchoData", "Internal forces and moments at nodes")),
+        option("bedd", &Properties::bedd, QT_TRANSLATE_NOOP("EchoData", "Bedding stresses")));
 }
 
 constexpr auto describe(const Data*) {
@@ -52,9 +54,9 @@ struct EigeData {
 
 constexpr auto describe(const EigeProperties*) {
     return bond::record<EigeProperties>("tiv.echo.esk.EigeProperties",
-        option("full", &EigeProperties::full, "Default of all options"),
-        option("eige", &EigeProperties::eige, "Eigenvalues"),
-        option("grp", &EigeProperties::grp, "Group parameters"));
+        option("full", &EigeProperties::full, QT_TRANSLATE_NOOP("EchoData", "Default of all options")),
+        option("eige", &EigeProperties::eige, QT_TRANSLATE_NOOP("EchoData", "Eigenvalues")),
+        option("grp", &EigeProperties::grp, QT_TRANSLATE_NOOP("EchoData", "Group parameters")));
 }
 
 constexpr auto describe(const EigeData*) {

@@ -17,9 +17,9 @@ struct Data {
 
 constexpr auto describe(const Properties*) {
     return bond::record<Properties>("tiv.echo.kst.Properties",
-        option("cs", &Properties::cs, "Construction Stages"),
-        option("grp", &Properties::grp, "Groups"),
-        option("lc", &Properties::lc, "Loadcases"));
+        option("cs", &Properties::cs, QT_TRANSLATE_NOOP("EchoData", "Construction Stages")),
+        option("grp", &Properties::grp, QT_TRANSLATE_NOOP("EchoData", "Groups")),
+        option("lc", &Properties::lc, QT_TRANSLATE_NOOP("EchoData", "Loadcases")));
 }
 
 constexpr auto describe(const Data*) {

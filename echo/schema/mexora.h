@@ -17,11 +17,13 @@ struct Data {
 
 constexpr auto describe(const Properties*) {
     return bond::record<Properties>("tiv.echo.mexora.Properties",
-        option("mexora_full", &Properties::mexora_full, "Default of all other options"),
+        option("mexora_full",
+            &Properties::mexora_full,
+            QT_TRANSLATE_NOOP("EchoData", "Default of all other options")),
         option("mexora_tabs",
             &Properties::mexora_tabs,
-            "General tables of the combinations and generated load cases"),
-        option("mexora_load", &Properties::mexora_load, "Used load cases"));
+            QT_TRANSLATE_NOOP("EchoData", "General tables of the combinations and generated load cases")),
+        option("mexora_load", &Properties::mexora_load, QT_TRANSLATE_NOOP("EchoData", "Used load cases")));
 }
 
 constexpr auto describe(const Data*) {

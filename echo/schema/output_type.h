@@ -5,6 +5,11 @@
 
 #include <cstdint>
 
+// Marks a text for lupdate. Qt's own definition, word for word: the records do not depend on Qt.
+#if !defined(QT_TRANSLATE_NOOP)
+#define QT_TRANSLATE_NOOP(scope, x) x
+#endif
+
 namespace tiv::echo {
 
 // FOUR to SEVEN (sic) name the numeric levels "4" to "7" of the analysis programs, which follow
@@ -39,7 +44,7 @@ constexpr const bond::EnumSchema& enumSchema(const OutPutType*) {
     return outPutTypeSchema;
 }
 
-// An option's line in its record's table: the label, and no category of its own.
+// Describes one option field: its label, with an empty category. lupdate finds the label by QT_TRANSLATE_NOOP.
 template <class Record>
 constexpr auto option(const char* name, OutPutType Record::*member, const char* displayName) {
     return bond::field(name, member, {{"Category", ""}, {"DisplayName", displayName}});

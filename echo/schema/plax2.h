@@ -29,21 +29,23 @@ struct Data {
 
 constexpr auto describe(const Properties*) {
     return bond::record<Properties>("tiv.echo.plax2.Properties",
-        option("full", &Properties::full, "Default of all options"),
-        option("node", &Properties::node, "Node coordinates, constraints"),
-        option("beam", &Properties::beam, "Beams (structure)"),
-        option("spri", &Properties::spri, "Spring elements (structures)"),
-        option("boun", &Properties::boun, "Distributed supported elements (structures)"),
-        option("sect", &Properties::sect, "Cross Section values"),
-        option("mat", &Properties::mat, "Material constants"),
-        option("load", &Properties::load, "Loads"),
-        option("forc", &Properties::forc, "Internal forces and moments"),
-        option("defo", &Properties::defo, "Beam deformations"),
-        option("bdef", &Properties::bdef, "Nodal displacements"),
-        option("reac", &Properties::reac, "Support reactions"),
-        option("rein", &Properties::rein, "Reinforcements"),
-        option("nstr", &Properties::nstr, "Strains and stiffnesses"),
-        option("step", &Properties::step, "Output of all iterations"));
+        option("full", &Properties::full, QT_TRANSLATE_NOOP("EchoData", "Default of all options")),
+        option("node", &Properties::node, QT_TRANSLATE_NOOP("EchoData", "Node coordinates, constraints")),
+        option("beam", &Properties::beam, QT_TRANSLATE_NOOP("EchoData", "Beams (structure)")),
+        option("spri", &Properties::spri, QT_TRANSLATE_NOOP("EchoData", "Spring elements (structures)")),
+        option("boun",
+            &Properties::boun,
+            QT_TRANSLATE_NOOP("EchoData", "Distributed supported elements (structures)")),
+        option("sect", &Properties::sect, QT_TRANSLATE_NOOP("EchoData", "Cross Section values")),
+        option("mat", &Properties::mat, QT_TRANSLATE_NOOP("EchoData", "Material constants")),
+        option("load", &Properties::load, QT_TRANSLATE_NOOP("EchoData", "Loads")),
+        option("forc", &Properties::forc, QT_TRANSLATE_NOOP("EchoData", "Internal forces and moments")),
+        option("defo", &Properties::defo, QT_TRANSLATE_NOOP("EchoData", "Beam deformations")),
+        option("bdef", &Properties::bdef, QT_TRANSLATE_NOOP("EchoData", "Nodal displacements")),
+        option("reac", &Properties::reac, QT_TRANSLATE_NOOP("EchoData", "Support reactions")),
+        option("rein", &Properties::rein, QT_TRANSLATE_NOOP("EchoData", "Reinforcements")),
+        option("nstr", &Properties::nstr, QT_TRANSLATE_NOOP("EchoData", "Strains and stiffnesses")),
+        option("step", &Properties::step, QT_TRANSLATE_NOOP("EchoData", "Output of all iterations")));
 }
 
 constexpr auto describe(const Data*) {

@@ -19,11 +19,11 @@ struct BrucData {
 
 constexpr auto describe(const BrucProperties*) {
     return bond::record<BrucProperties>("tiv.echo.qsx.BrucProperties",
-        option("full", &BrucProperties::full, "Default of all options"),
-        option("shea", &BrucProperties::shea, "Shear design"),
-        option("lc", &BrucProperties::lc, "Individual loadcases"),
-        option("desi", &BrucProperties::desi, "Dimensioning"),
-        option("rein", &BrucProperties::rein, "Reinforcements"));
+        option("full", &BrucProperties::full, QT_TRANSLATE_NOOP("EchoData", "Default of all options")),
+        option("shea", &BrucProperties::shea, QT_TRANSLATE_NOOP("EchoData", "Shear design")),
+        option("lc", &BrucProperties::lc, QT_TRANSLATE_NOOP("EchoData", "Individual loadcases")),
+        option("desi", &BrucProperties::desi, QT_TRANSLATE_NOOP("EchoData", "Dimensioning")),
+        option("rein", &BrucProperties::rein, QT_TRANSLATE_NOOP("EchoData", "Reinforcements")));
 }
 
 constexpr auto describe(const BrucData*) {
@@ -44,11 +44,11 @@ struct RissData {
 
 constexpr auto describe(const RissProperies*) {
     return bond::record<RissProperies>("tiv.echo.qsx.RissProperies",
-        option("full", &RissProperies::full, "Default of all options"),
-        option("shea", &RissProperies::shea, "Shear design"),
-        option("lc", &RissProperies::lc, "Individual loadcases"),
-        option("nstr", &RissProperies::nstr, "Dimensioning"),
-        option("crac", &RissProperies::crac, "Reinforcements"));
+        option("full", &RissProperies::full, QT_TRANSLATE_NOOP("EchoData", "Default of all options")),
+        option("shea", &RissProperies::shea, QT_TRANSLATE_NOOP("EchoData", "Shear design")),
+        option("lc", &RissProperies::lc, QT_TRANSLATE_NOOP("EchoData", "Individual loadcases")),
+        option("nstr", &RissProperies::nstr, QT_TRANSLATE_NOOP("EchoData", "Dimensioning")),
+        option("crac", &RissProperies::crac, QT_TRANSLATE_NOOP("EchoData", "Reinforcements")));
 }
 
 constexpr auto describe(const RissData*) {
@@ -72,14 +72,17 @@ struct ElPlData {
 
 constexpr auto describe(const ElPlProperties*) {
     return bond::record<ElPlProperties>("tiv.echo.qsx.ElPlProperties",
-        option("full", &ElPlProperties::full, "Default of all options"),
-        option("sect", &ElPlProperties::sect, "Cross Section values"),
-        option("forc", &ElPlProperties::forc, "Internal forces and moments"),
-        option("lc", &ElPlProperties::lc, "Individual loadcases"),
-        option("stre", &ElPlProperties::stre, "Stresses, Utilisation Level, Flexural Buckling"),
-        option("tabs", &ElPlProperties::tabs, "Tabular summaries"),
-        option("nstr", &ElPlProperties::nstr, "Non-linear stresses"),
-        option("usep", &ElPlProperties::usep, "Used participy factors"));  // sic
+        option("full", &ElPlProperties::full, QT_TRANSLATE_NOOP("EchoData", "Default of all options")),
+        option("sect", &ElPlProperties::sect, QT_TRANSLATE_NOOP("EchoData", "Cross Section values")),
+        option("forc", &ElPlProperties::forc, QT_TRANSLATE_NOOP("EchoData", "Internal forces and moments")),
+        option("lc", &ElPlProperties::lc, QT_TRANSLATE_NOOP("EchoData", "Individual loadcases")),
+        option("stre",
+            &ElPlProperties::stre,
+            QT_TRANSLATE_NOOP("EchoData", "Stresses, Utilisation Level, Flexural Buckling")),
+        option("tabs", &ElPlProperties::tabs, QT_TRANSLATE_NOOP("EchoData", "Tabular summaries")),
+        option("nstr", &ElPlProperties::nstr, QT_TRANSLATE_NOOP("EchoData", "Non-linear stresses")),
+        option(
+            "usep", &ElPlProperties::usep, QT_TRANSLATE_NOOP("EchoData", "Used participy factors")));  // sic
 }
 
 constexpr auto describe(const ElPlData*) {

@@ -18,10 +18,10 @@ struct Data {
 
 constexpr auto describe(const RovaProperties*) {
     return bond::record<RovaProperties>("tiv.echo.rova.RovaProperties",
-        option("rova_load", &RovaProperties::rova_load, "Loadtrains"),
-        option("rova_eval", &RovaProperties::rova_eval, "Evaluation"),
-        option("rova_lpos", &RovaProperties::rova_lpos, "Load positions"),
-        option("rova_res", &RovaProperties::rova_res, "Results"));
+        option("rova_load", &RovaProperties::rova_load, QT_TRANSLATE_NOOP("EchoData", "Loadtrains")),
+        option("rova_eval", &RovaProperties::rova_eval, QT_TRANSLATE_NOOP("EchoData", "Evaluation")),
+        option("rova_lpos", &RovaProperties::rova_lpos, QT_TRANSLATE_NOOP("EchoData", "Load positions")),
+        option("rova_res", &RovaProperties::rova_res, QT_TRANSLATE_NOOP("EchoData", "Results")));
 }
 
 constexpr auto describe(const Data*) {

@@ -17,9 +17,9 @@ struct Data {
 
 constexpr auto describe(const Properties*) {
     return bond::record<Properties>("tiv.echo.tiviload.Properties",
-        option("full", &Properties::full, "Default of all other options"),
-        option("act", &Properties::act, "Actions"),
-        option("load", &Properties::load, "Loading"));
+        option("full", &Properties::full, QT_TRANSLATE_NOOP("EchoData", "Default of all other options")),
+        option("act", &Properties::act, QT_TRANSLATE_NOOP("EchoData", "Actions")),
+        option("load", &Properties::load, QT_TRANSLATE_NOOP("EchoData", "Loading")));
 }
 
 constexpr auto describe(const Data*) {

@@ -23,15 +23,17 @@ struct EarthquakeData {
 
 constexpr auto describe(const EarthquakeProperties*) {
     return bond::record<EarthquakeProperties>("tiv.echo.vibr.EarthquakeProperties",
-        option("full", &EarthquakeProperties::full, "Default of all options"),
-        option("disp", &EarthquakeProperties::disp, "Displacements"),
-        option("velo", &EarthquakeProperties::velo, "Velocities"),
-        option("acce", &EarthquakeProperties::acce, "Accelerations"),
-        option("node", &EarthquakeProperties::node, "Nodal values"),
-        option("elem", &EarthquakeProperties::elem, "Elements"),
-        option("mass", &EarthquakeProperties::mass, "Masses in nodes"),
-        option("eige", &EarthquakeProperties::eige, "Natural frequencies"),
-        option("forc", &EarthquakeProperties::forc, "Internal forces and moments"));
+        option("full", &EarthquakeProperties::full, QT_TRANSLATE_NOOP("EchoData", "Default of all options")),
+        option("disp", &EarthquakeProperties::disp, QT_TRANSLATE_NOOP("EchoData", "Displacements")),
+        option("velo", &EarthquakeProperties::velo, QT_TRANSLATE_NOOP("EchoData", "Velocities")),
+        option("acce", &EarthquakeProperties::acce, QT_TRANSLATE_NOOP("EchoData", "Accelerations")),
+        option("node", &EarthquakeProperties::node, QT_TRANSLATE_NOOP("EchoData", "Nodal values")),
+        option("elem", &EarthquakeProperties::elem, QT_TRANSLATE_NOOP("EchoData", "Elements")),
+        option("mass", &EarthquakeProperties::mass, QT_TRANSLATE_NOOP("EchoData", "Masses in nodes")),
+        option("eige", &EarthquakeProperties::eige, QT_TRANSLATE_NOOP("EchoData", "Natural frequencies")),
+        option("forc",
+            &EarthquakeProperties::forc,
+            QT_TRANSLATE_NOOP("EchoData", "Internal forces and moments")));
 }
 
 constexpr auto describe(const EarthquakeData*) {

@@ -18,71 +18,73 @@ struct Option {
 
 // Kept letter for letter, also where an entry looks like a slip: the analysis programs read these words.
 constexpr Option options[] = {
-    {"VOLL", "FULL", "Default of all options"},                                       // 0
-    {"GRUP", "GRP", "Group parameters"},                                              // 1
-    {"LAST", "LOAD", "Loads"},                                                        // 2
-    {"LSUM", "LSUM", "Sum of loads"},                                                 // 3
-    {"REAK", "REAC", "Support reactions"},                                            // 4
-    {"AUFL", "LINE", "Distributed support reactions"},                                // 5
-    {"VERS", "DISP", "Displacements"},                                                // 6
-    {"SCHN", "FORC", "Internal forces and moments"},                                  // 7
-    {"NOST", "NOST", "Internal forces and moments at nodes"},                         // 8
-    {"BETT", "BEDD", "Bedding stresses"},                                             // 9
-    {"EIGE", "EIGE", "Eigenvalues"},                                                  // 10
-    {"VOLL", "FULL", "Default of all options"},                                       // 11
-    {"KNOT", "NODE", "Node coordinates, constraints"},                                // 12
-    {"LAST", "LOAD", "Loads"},                                                        // 13
-    {"STAB", "BEAM", "Beams (structure)"},                                            // 14
-    {"MAT", "SPRI", "Spring elements (structures)"},                                  // 15, sic
-    {"MAT", "BOUN", "Distributed supported elements (structures)"},                   // 16, sic
-    {"SCHN", "FORC", "Internal forces and moments"},                                  // 17
-    {"REAK", "REAC", "Support reactions"},                                            // 18
-    {"QUER", "SECT", "Cross Section values"},                                         // 19
-    {"MAT", "MAT", "Material constants"},                                             // 20
-    {"SVER", "DEFO", "Beam deformations"},                                            // 21
-    {"VERS", "BDEF", "Nodal displacements"},                                          // 22
-    {"BEW", "REIN", "Reinforcements"},                                                // 23
-    {"DEHN", "NSTR", "Strains and stiffnesses"},                                      // 24
-    {"STEP", "STEP", "Output of all iterations"},                                     // 25
-    {"SPAN", "STRE", "Stresses, Utilisation Level, Flexural Buckling"},               // 26
-    {"TABS", "TABS", "Tabular summaries"},                                            // 27
-    {"DEHN", "NSTR", "Non-linear stresses"},                                          // 28
-    {"AUSN", "USEP", "Used participy factors"},                                       // 29, sic
-    {"LF", "LC", "Individual loadcases"},                                             // 30
-    {"VOLL", "FULL", "Default of all other options"},                                 // 31
-    {"SCHU", "SHEA", "Shear design"},                                                 // 32
-    {"BEME", "DESI", "Non-linear stresses"},                                          // 33, sic
-    {"BEW", "REIN", "Limitation of crack width"},                                     // 34, sic
-    {"RISS", "CRAC", "Limitation of crack width"},                                    // 35
-    {"VELO", "VELO", "Velocities"},                                                   // 36
-    {"ACCE", "ACCE", "Accelerations"},                                                // 37
-    {"KNOT", "NODE", "Nodal values"},                                                 // 38
-    {"ELEM", "ELEM", "Elements"},                                                     // 39
-    {"MASS", "MASS", "Masses in nodes"},                                              // 40
-    {"EIGE", "EIGE", "Natural frequencies"},                                          // 41
-    {"SCHN", "FORC", "Internal forces and moments"},                                  // 42
-    {"BA", "CS", "Construction Stages"},                                              // 43
-    {"GRUP", "GRP", "Groups"},                                                        // 44
-    {"LF", "LC", "Loadcases"},                                                        // 45
-    {"VOLL", "FULL", "Default of all other options"},                                 // 46
-    {"PARA", "PARA", "Design parameter"},                                             // 47
-    {"BEME", "REIN", "Design results"},                                               // 48
-    {"ZUS", "RTAB", "Reinforcement compilation"},                                     // 49
-    {"INDX", "INDX", "Steel index"},                                                  // 50
-    {"BMOM", "DMOM", "Internal forces of the design"},                                // 51
-    {"DUST", "PUNC", "Punching checks"},                                              // 52
-    {"SIGS", "SIGS", "Concrete compressive stress"},                                  // 53
-    {"DEHN", "NSTR", "Fatigue design"},                                               // 54
-    {"VOLL", "FULL", "Default of all other options"},                                 // 55
-    {"ACT", "ACT", "Actions"},                                                        // 56
-    {"LAST", "LOAD", "Loading"},                                                      // 57
-    {"VOLL", "FULL", "Default of all other options"},                                 // 58
-    {"TABU", "TABS", "General tables of the combinations and generated load cases"},  // 59
-    {"LAST", "LOAD", "Used load cases"},                                              // 60
-    {"LAST", "LOAD", "Loadtrains"},                                                   // 61
-    {"AUSW", "EVAL", "Evaluation"},                                                   // 62
-    {"LPOS", "LPOS", "Load positions"},                                               // 63
-    {"ERG", "RES", "Results"},                                                        // 64
+    {"VOLL", "FULL", QT_TRANSLATE_NOOP("EchoData", "Default of all options")},                      // 0
+    {"GRUP", "GRP", QT_TRANSLATE_NOOP("EchoData", "Group parameters")},                             // 1
+    {"LAST", "LOAD", QT_TRANSLATE_NOOP("EchoData", "Loads")},                                       // 2
+    {"LSUM", "LSUM", QT_TRANSLATE_NOOP("EchoData", "Sum of loads")},                                // 3
+    {"REAK", "REAC", QT_TRANSLATE_NOOP("EchoData", "Support reactions")},                           // 4
+    {"AUFL", "LINE", QT_TRANSLATE_NOOP("EchoData", "Distributed support reactions")},               // 5
+    {"VERS", "DISP", QT_TRANSLATE_NOOP("EchoData", "Displacements")},                               // 6
+    {"SCHN", "FORC", QT_TRANSLATE_NOOP("EchoData", "Internal forces and moments")},                 // 7
+    {"NOST", "NOST", QT_TRANSLATE_NOOP("EchoData", "Internal forces and moments at nodes")},        // 8
+    {"BETT", "BEDD", QT_TRANSLATE_NOOP("EchoData", "Bedding stresses")},                            // 9
+    {"EIGE", "EIGE", QT_TRANSLATE_NOOP("EchoData", "Eigenvalues")},                                 // 10
+    {"VOLL", "FULL", QT_TRANSLATE_NOOP("EchoData", "Default of all options")},                      // 11
+    {"KNOT", "NODE", QT_TRANSLATE_NOOP("EchoData", "Node coordinates, constraints")},               // 12
+    {"LAST", "LOAD", QT_TRANSLATE_NOOP("EchoData", "Loads")},                                       // 13
+    {"STAB", "BEAM", QT_TRANSLATE_NOOP("EchoData", "Beams (structure)")},                           // 14
+    {"MAT", "SPRI", QT_TRANSLATE_NOOP("EchoData", "Spring elements (structures)")},                 // 15, sic
+    {"MAT", "BOUN", QT_TRANSLATE_NOOP("EchoData", "Distributed supported elements (structures)")},  // 16, sic
+    {"SCHN", "FORC", QT_TRANSLATE_NOOP("EchoData", "Internal forces and moments")},                 // 17
+    {"REAK", "REAC", QT_TRANSLATE_NOOP("EchoData", "Support reactions")},                           // 18
+    {"QUER", "SECT", QT_TRANSLATE_NOOP("EchoData", "Cross Section values")},                        // 19
+    {"MAT", "MAT", QT_TRANSLATE_NOOP("EchoData", "Material constants")},                            // 20
+    {"SVER", "DEFO", QT_TRANSLATE_NOOP("EchoData", "Beam deformations")},                           // 21
+    {"VERS", "BDEF", QT_TRANSLATE_NOOP("EchoData", "Nodal displacements")},                         // 22
+    {"BEW", "REIN", QT_TRANSLATE_NOOP("EchoData", "Reinforcements")},                               // 23
+    {"DEHN", "NSTR", QT_TRANSLATE_NOOP("EchoData", "Strains and stiffnesses")},                     // 24
+    {"STEP", "STEP", QT_TRANSLATE_NOOP("EchoData", "Output of all iterations")},                    // 25
+    {"SPAN", "STRE", QT_TRANSLATE_NOOP("EchoData", "Stresses, Utilisation Level, Flexural Buckling")},  // 26
+    {"TABS", "TABS", QT_TRANSLATE_NOOP("EchoData", "Tabular summaries")},                               // 27
+    {"DEHN", "NSTR", QT_TRANSLATE_NOOP("EchoData", "Non-linear stresses")},                             // 28
+    {"AUSN", "USEP", QT_TRANSLATE_NOOP("EchoData", "Used participy factors")},         // 29, sic
+    {"LF", "LC", QT_TRANSLATE_NOOP("EchoData", "Individual loadcases")},               // 30
+    {"VOLL", "FULL", QT_TRANSLATE_NOOP("EchoData", "Default of all other options")},   // 31
+    {"SCHU", "SHEA", QT_TRANSLATE_NOOP("EchoData", "Shear design")},                   // 32
+    {"BEME", "DESI", QT_TRANSLATE_NOOP("EchoData", "Non-linear stresses")},            // 33, sic
+    {"BEW", "REIN", QT_TRANSLATE_NOOP("EchoData", "Limitation of crack width")},       // 34, sic
+    {"RISS", "CRAC", QT_TRANSLATE_NOOP("EchoData", "Limitation of crack width")},      // 35
+    {"VELO", "VELO", QT_TRANSLATE_NOOP("EchoData", "Velocities")},                     // 36
+    {"ACCE", "ACCE", QT_TRANSLATE_NOOP("EchoData", "Accelerations")},                  // 37
+    {"KNOT", "NODE", QT_TRANSLATE_NOOP("EchoData", "Nodal values")},                   // 38
+    {"ELEM", "ELEM", QT_TRANSLATE_NOOP("EchoData", "Elements")},                       // 39
+    {"MASS", "MASS", QT_TRANSLATE_NOOP("EchoData", "Masses in nodes")},                // 40
+    {"EIGE", "EIGE", QT_TRANSLATE_NOOP("EchoData", "Natural frequencies")},            // 41
+    {"SCHN", "FORC", QT_TRANSLATE_NOOP("EchoData", "Internal forces and moments")},    // 42
+    {"BA", "CS", QT_TRANSLATE_NOOP("EchoData", "Construction Stages")},                // 43
+    {"GRUP", "GRP", QT_TRANSLATE_NOOP("EchoData", "Groups")},                          // 44
+    {"LF", "LC", QT_TRANSLATE_NOOP("EchoData", "Loadcases")},                          // 45
+    {"VOLL", "FULL", QT_TRANSLATE_NOOP("EchoData", "Default of all other options")},   // 46
+    {"PARA", "PARA", QT_TRANSLATE_NOOP("EchoData", "Design parameter")},               // 47
+    {"BEME", "REIN", QT_TRANSLATE_NOOP("EchoData", "Design results")},                 // 48
+    {"ZUS", "RTAB", QT_TRANSLATE_NOOP("EchoData", "Reinforcement compilation")},       // 49
+    {"INDX", "INDX", QT_TRANSLATE_NOOP("EchoData", "Steel index")},                    // 50
+    {"BMOM", "DMOM", QT_TRANSLATE_NOOP("EchoData", "Internal forces of the design")},  // 51
+    {"DUST", "PUNC", QT_TRANSLATE_NOOP("EchoData", "Punching checks")},                // 52
+    {"SIGS", "SIGS", QT_TRANSLATE_NOOP("EchoData", "Concrete compressive stress")},    // 53
+    {"DEHN", "NSTR", QT_TRANSLATE_NOOP("EchoData", "Fatigue design")},                 // 54
+    {"VOLL", "FULL", QT_TRANSLATE_NOOP("EchoData", "Default of all other options")},   // 55
+    {"ACT", "ACT", QT_TRANSLATE_NOOP("EchoData", "Actions")},                          // 56
+    {"LAST", "LOAD", QT_TRANSLATE_NOOP("EchoData", "Loading")},                        // 57
+    {"VOLL", "FULL", QT_TRANSLATE_NOOP("EchoData", "Default of all other options")},   // 58
+    {"TABU",
+        "TABS",
+        QT_TRANSLATE_NOOP("EchoData", "General tables of the combinations and generated load cases")},  // 59
+    {"LAST", "LOAD", QT_TRANSLATE_NOOP("EchoData", "Used load cases")},                                 // 60
+    {"LAST", "LOAD", QT_TRANSLATE_NOOP("EchoData", "Loadtrains")},                                      // 61
+    {"AUSW", "EVAL", QT_TRANSLATE_NOOP("EchoData", "Evaluation")},                                      // 62
+    {"LPOS", "LPOS", QT_TRANSLATE_NOOP("EchoData", "Load positions")},                                  // 63
+    {"ERG", "RES", QT_TRANSLATE_NOOP("EchoData", "Results")},                                           // 64
 };
 static_assert(std::size(options) == optionCount);
 

@@ -3,13 +3,28 @@
 #include "support/session.h"
 
 #include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QLibrary>
 #include <QLocale>
+#include <QTemporaryDir>
 #include <QTranslator>
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+#include <iostream>
+
 namespace {
+
+QString loads() {
+    return QCoreApplication::translate("EchoData", "Loads");
+}
+
+QString groups() {
+    return QCoreApplication::translate("EchoData", "Groups");
+}
 
 struct OwnWords : QTranslator {
     bool isEmpty() const override { return false; }
@@ -19,8 +34,6 @@ struct OwnWords : QTranslator {
 };
 
 TEST(Catalogue, FollowsTheLanguagesOfTheApplicationBehindTheTranslatorsOfTheHost) {
-    const auto loads = [] { return QCoreApplication::translate("EchoData", "Loads"); };
-    const auto groups = [] { return QCoreApplication::translate("EchoData", "Groups"); };
     test::speak(true);
     QLibrary library(TIV_LIBRARY);
     ASSERT_TRUE(library.load()) << library.errorString().toStdString();
@@ -39,6 +52,44 @@ TEST(Catalogue, FollowsTheLanguagesOfTheApplicationBehindTheTranslatorsOfTheHost
     EXPECT_EQ(groups(), "Gruppen");
     EXPECT_TRUE(library.unload());
     EXPECT_EQ(loads(), "Loads");
+    test::speak(false);
+}
+
+#if defined(Q_OS_UNIX)  // where the environment holds the languages
+TEST(Catalogue, IsThatOfTheMostWantedLanguage) {
+    const char* const rows[][2] = {
+        {"en:de", "Loads"}, {"de:en", "Lasten"}, {"nl:en:de", "Loads"}, {"nl:de", "Lasten"}};
+    const auto print = [] {
+        QLibrary(TIV_LIBRARY).load();
+        std::cerr << loads().toStdString();
+        std::_Exit(0);
+    };
+    const QByteArray before = qgetenv("LANGUAGE");
+    GTEST_FLAG_SET(death_test_style, "threadsafe");  // a new process, as Qt reads LANGUAGE once
+    for (const auto& [languages, expected] : rows) {
+        qputenv("LANGUAGE", languages);
+        EXPECT_EXIT(print(), testing::ExitedWithCode(0), expected) << languages;
+    }
+    qputenv("LANGUAGE", before);
+}
+#endif
+
+TEST(Catalogue, OfAThirdLanguageIsAFileBesideTheLibraryOrInItsShareFolder) {
+    for (const char* place : {"lib", "share/tiv_echotable/translations"}) {
+        const QString folder(place);
+        const QTemporaryDir installed;
+        const QString path = installed.path() + "/lib/" + QFileInfo(TIV_LIBRARY).fileName();
+        QDir(installed.path()).mkpath("lib");
+        QDir(installed.path()).mkpath(folder);
+        ASSERT_TRUE(QFile::copy(TIV_LIBRARY, path));
+        ASSERT_TRUE(QFile::copy(TIV_FRENCH, installed.path() + '/' + folder + "/tiv_echotable_dll_fr.qm"));
+        QLocale::setDefault(QLocale(QLocale::French));
+        QLibrary library(path);
+        ASSERT_TRUE(library.load()) << library.errorString().toStdString();
+        EXPECT_EQ(loads(), "Charges") << place;
+        EXPECT_EQ(groups(), "Groups") << "a text that the file lacks";
+        library.unload();
+    }
     test::speak(false);
 }
 

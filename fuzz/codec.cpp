@@ -17,6 +17,7 @@
 #include "fuzz/target.h"
 #include "support/every_type.h"
 
+#include <array>
 #include <cmath>
 #include <limits>
 #include <span>
@@ -64,24 +65,12 @@ void run(std::span<const std::byte> bytes, bool isJson) {
     require(bond::writeCompactBinary(readJson) == written, "JSON means another record");
 }
 
-constexpr decltype(&run<test::EveryType>) records[] = {
-    run<qsx::BrucData>,
-    run<qsx::RissData>,
-    run<qsx::ElPlData>,
-    run<esk::Data>,
-    run<esk::EigeData>,
-    run<dimvel::BrucData>,
-    run<dimvel::RissData>,
-    run<kst::Data>,
-    run<vibr::EarthquakeData>,
-    run<mexora::Data>,
-    run<plax2::Data>,
-    run<tiviload::Data>,
-    run<rova::Data>,
-    run<XMLEchoData>,
-    run<test::EveryType>,
-    run<test::EveryType>,
-};
+template <class... Records>
+constexpr std::array runs{&run<Records>...};
+
+constexpr auto records = runs<qsx::BrucData, qsx::RissData, qsx::ElPlData, esk::Data, esk::EigeData,
+    dimvel::BrucData, dimvel::RissData, kst::Data, vibr::EarthquakeData, mexora::Data, plax2::Data,
+    tiviload::Data, rova::Data, XMLEchoData, test::EveryType, test::EveryType>;
 
 }  // namespace
 

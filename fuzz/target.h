@@ -5,7 +5,7 @@
 // An input that fails is build/fuzz/<target>-crash-<hash>. Once it is mended, it goes into the corpus
 // under a name that says what was wrong. The rest that was found worth keeping is in build/fuzz/corpus:
 //
-//     build/fuzz/bin/fuzz_codec -merge=1 fuzz/corpus/codec build/fuzz/corpus/codec
+//     build/fuzz/address/bin/fuzz_codec -merge=1 fuzz/corpus/codec build/fuzz/corpus/codec
 #pragma once
 
 #include <cstddef>

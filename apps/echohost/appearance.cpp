@@ -4,7 +4,6 @@
 #include <QColor>
 #include <QPalette>
 #include <QStyle>
-#include <QStyleFactory>
 
 namespace echohost {
 namespace {
@@ -31,13 +30,14 @@ QPalette darkPalette() {
 
 }  // namespace
 
-bool isDark() {
-    return QApplication::palette().color(QPalette::Window).lightness() < 128;
-}
+Appearance::Appearance() : style_(QApplication::style()->objectName()), palette_(QApplication::palette()) {}
 
-void setDark(bool dark) {
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));  // obeys a palette everywhere
-    QApplication::setPalette(dark ? darkPalette() : QApplication::style()->standardPalette());
+void Appearance::setDark(bool dark) {
+    if (dark == isDark_) return;
+    isDark_ = dark;
+    // Fusion takes all its colours from the palette; other styles do not.
+    QApplication::setStyle(dark ? QStringLiteral("Fusion") : style_);
+    QApplication::setPalette(dark ? darkPalette() : palette_);
 }
 
 }  // namespace echohost

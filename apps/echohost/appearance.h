@@ -1,11 +1,25 @@
 // Light and dark.
 #pragma once
 
+#include <QPalette>
+#include <QString>
+
 namespace echohost {
 
-bool isDark();
+class Appearance {
+ public:
+    // Keeps the present style and colours, for setDark(false) and the destructor.
+    Appearance();
+    ~Appearance() { setDark(false); }
+    Appearance(const Appearance&) = delete;
+    Appearance& operator=(const Appearance&) = delete;
 
-// Leaves the system's look for a light or dark one of Qt's own.
-void setDark(bool dark);
+    void setDark(bool dark);
+
+ private:
+    bool isDark_ = false;
+    QString style_;
+    QPalette palette_;
+};
 
 }  // namespace echohost

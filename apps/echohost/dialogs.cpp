@@ -7,10 +7,13 @@
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QFormLayout>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSpinBox>
+#include <QVBoxLayout>
 
+#include <array>
 #include <limits>
 
 namespace echohost {
@@ -20,21 +23,55 @@ QString text(const char* source) {
     return QCoreApplication::translate("Dialog", source);
 }
 
-// Shows the rows above OK and Cancel. Whether it was OK.
-bool accepted(QDialog& dialog, QFormLayout& rows) {
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-    rows.addRow(buttons);
-    QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
-    QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
-    return dialog.exec() == QDialog::Accepted;
-}
+// Rows of fields above OK and Cancel.
+class Form {
+ public:
+    Form(QWidget* parent, const QString& title) : dialog_(parent) {
+        dialog_.setWindowTitle(title);
+        auto* layout = new QVBoxLayout(&dialog_);
+        layout->addLayout(rows_);
+        layout->addWidget(buttons_);
+        QObject::connect(buttons_, &QDialogButtonBox::accepted, &dialog_, &QDialog::accept);
+        QObject::connect(buttons_, &QDialogButtonBox::rejected, &dialog_, &QDialog::reject);
+    }
+
+    void addRow(const char* label, QWidget* field) { rows_->addRow(text(label), field); }
+
+    // A field for a name. OK is disabled while the name is empty or taken.
+    QLineEdit* addName(const QString& suggestion, const IsTaken& isTaken) {
+        auto* name = new QLineEdit;
+        name->setObjectName(QStringLiteral("name"));
+        auto* remark = new QLabel;
+        remark->setTextFormat(Qt::PlainText);
+        remark->setWordWrap(true);
+        addRow(QT_TRANSLATE_NOOP("Dialog", "&Name:"), name);
+        rows_->addRow(QString(), remark);
+        QPushButton* ok = buttons_->button(QDialogButtonBox::Ok);
+        const auto check = [=](const QString& typed) {
+            const bool taken = isTaken(typed.trimmed());
+            ok->setDisabled(taken || typed.trimmed().isEmpty());
+            remark->setText(
+                taken ? text(QT_TRANSLATE_NOOP("Dialog", "A task of this name already exists.")) : QString());
+        };
+        QObject::connect(name, &QLineEdit::textChanged, name, check);
+        name->setText(suggestion);
+        name->selectAll();
+        check(suggestion);
+        return name;
+    }
+
+    bool isAccepted() { return dialog_.exec() == QDialog::Accepted; }
+
+ private:
+    QDialog dialog_;
+    QFormLayout* rows_ = new QFormLayout;
+    QDialogButtonBox* buttons_ = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+};
 
 }  // namespace
 
-std::optional<ElementCounts> askElementCounts(QWidget* parent) {
-    QDialog dialog(parent);
-    dialog.setWindowTitle(text(QT_TRANSLATE_NOOP("Dialog", "Elements of the new project")));
-    QFormLayout rows(&dialog);
+std::optional<tiv::dbo::ElementCounts> askElementCounts(QWidget* parent) {
+    Form form(parent, text(QT_TRANSLATE_NOOP("Dialog", "Elements of the new project")));
     std::array<QSpinBox*, 5> fields{};
     const std::array<const char*, 5> labels = {QT_TRANSLATE_NOOP("Dialog", "&Quadrilaterals:"),
         QT_TRANSLATE_NOOP("Dialog", "S&olids:"),
@@ -44,25 +81,31 @@ std::optional<ElementCounts> askElementCounts(QWidget* parent) {
     for (std::size_t kind = 0; kind < fields.size(); ++kind) {
         fields[kind] = new QSpinBox;
         fields[kind]->setMaximum(std::numeric_limits<int>::max());
-        rows.addRow(text(labels[kind]), fields[kind]);
+        form.addRow(labels[kind], fields[kind]);
     }
-    if (!accepted(dialog, rows)) return {};
-    ElementCounts counts{};
+    if (!form.isAccepted()) return {};
+    tiv::dbo::ElementCounts counts{};
     for (std::size_t kind = 0; kind < fields.size(); ++kind) counts[kind] = fields[kind]->value();
     return counts;
 }
 
-std::optional<NewTask> askNewTask(QWidget* parent) {
-    QDialog dialog(parent);
-    dialog.setWindowTitle(text(QT_TRANSLATE_NOOP("Dialog", "New analysis task")));
-    QFormLayout rows(&dialog);
-    auto* name = new QLineEdit;
+std::optional<QString> askTaskName(
+    QWidget* parent, const QString& title, const QString& suggestion, const IsTaken& isTaken) {
+    Form form(parent, title);
+    const QLineEdit* name = form.addName(suggestion, isTaken);
+    if (!form.isAccepted()) return {};
+    return name->text().trimmed();
+}
+
+std::optional<NewTask> askNewTask(QWidget* parent, const IsTaken& isTaken) {
+    Form form(parent, text(QT_TRANSLATE_NOOP("Dialog", "New analysis task")));
+    const QLineEdit* name = form.addName(QString(), isTaken);
     auto* program = new QComboBox;
+    program->setMinimumWidth(60);  // the descriptions are long
     for (int type = 0; type < programCount(); ++type)
         program->addItem(QStringLiteral("%1 \u2013 %2").arg(programName(type), programDescription(type)));
-    rows.addRow(text(QT_TRANSLATE_NOOP("Dialog", "&Name:")), name);
-    rows.addRow(text(QT_TRANSLATE_NOOP("Dialog", "&Program:")), program);
-    if (!accepted(dialog, rows)) return {};
+    form.addRow(QT_TRANSLATE_NOOP("Dialog", "&Program:"), program);
+    if (!form.isAccepted()) return {};
     return NewTask{name->text().trimmed(), program->currentIndex()};
 }
 

@@ -39,6 +39,10 @@
         <source>&amp;Program:</source>
         <translation>&amp;Programm:</translation>
     </message>
+    <message>
+        <source>A task of this name already exists.</source>
+        <translation>Es gibt bereits eine Aufgabe dieses Namens.</translation>
+    </message>
 </context>
 <context>
     <name>Program</name>
@@ -104,26 +108,114 @@
     </message>
 </context>
 <context>
-    <name>Project</name>
+    <name>Reason</name>
+    <message>
+        <source>already exists</source>
+        <translation>gibt es bereits</translation>
+    </message>
+    <message>
+        <source>no file name</source>
+        <translation>kein Dateiname</translation>
+    </message>
+    <message>
+        <source>no such file</source>
+        <translation>Datei nicht vorhanden</translation>
+    </message>
+    <message>
+        <source>not a file</source>
+        <translation>keine Datei</translation>
+    </message>
+    <message>
+        <source>not a project</source>
+        <translation>kein Projekt</translation>
+    </message>
+    <message>
+        <source>project format %1, expected %2</source>
+        <translation>Projektformat %1 statt %2</translation>
+    </message>
+    <message>
+        <source>attempt to write a readonly database</source>
+        <translation>die Projektdatei ist schreibgeschützt</translation>
+    </message>
+    <message>
+        <source>database is locked</source>
+        <translation>die Projektdatei ist gesperrt</translation>
+    </message>
+    <message>
+        <source>database or disk is full</source>
+        <translation>der Datenträger ist voll</translation>
+    </message>
+    <message>
+        <source>disk I/O error</source>
+        <translation>Fehler beim Lesen oder Schreiben</translation>
+    </message>
+    <message>
+        <source>file is not a database</source>
+        <translation>die Datei ist keine Projektdatei</translation>
+    </message>
+    <message>
+        <source>unable to open database file</source>
+        <translation>die Projektdatei lässt sich nicht öffnen</translation>
+    </message>
+    <message>
+        <source>File too large</source>
+        <translation>Datei zu groß</translation>
+    </message>
+    <message>
+        <source>Is a directory</source>
+        <translation>ist ein Ordner</translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation>der Datenträger ist voll</translation>
+    </message>
+    <message>
+        <source>No such file or directory</source>
+        <translation>Datei oder Ordner nicht vorhanden</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>keine Berechtigung</translation>
+    </message>
+    <message>
+        <source>Read-only file system</source>
+        <translation>der Datenträger ist schreibgeschützt</translation>
+    </message>
     <message>
         <source>%1 records instead of one</source>
         <translation>%1 Datensätze statt eines</translation>
     </message>
     <message>
-        <source>A task needs a name.</source>
-        <translation>Eine Aufgabe braucht einen Namen.</translation>
+        <source>JSON parser error: %1 at offset %2</source>
+        <translation>JSON-Fehler bei Byte %2: %1</translation>
     </message>
     <message>
-        <source>There is a task &quot;%1&quot; already.</source>
-        <translation>Es gibt bereits eine Aufgabe „%1“.</translation>
+        <source>Max recursion depth exceeded</source>
+        <translation>zu tief verschachtelt</translation>
+    </message>
+    <message>
+        <source>Read out of bounds: %1 bytes requested, offset: %2, length: %3</source>
+        <translation>%1 Bytes erwartet, aber der Text endet: Stelle %2 von %3</translation>
+    </message>
+    <message>
+        <source>Unknown data type found</source>
+        <translation>unbekannter Datentyp</translation>
+    </message>
+    <message>
+        <source>the file is damaged</source>
+        <translation>die Datei ist beschädigt</translation>
+    </message>
+    <message>
+        <source>no such table: %1</source>
+        <translation>Tabelle %1 fehlt</translation>
+    </message>
+    <message>
+        <source>invalid number of %1</source>
+        <translation>ungültige Anzahl von %1</translation>
     </message>
 </context>
 <context>
     <name>echohost::MainWindow</name>
-    <message>
-        <source>Assertion failed: %1</source>
-        <translation>Zusicherung verletzt: %1</translation>
-    </message>
     <message>
         <source>&amp;File</source>
         <translation>&amp;Datei</translation>
@@ -205,16 +297,76 @@
         <translation>Alle Optionen voll</translation>
     </message>
     <message>
-        <source>New project</source>
-        <translation>Neues Projekt</translation>
+        <source>Tasks</source>
+        <translation>Aufgaben</translation>
+    </message>
+    <message>
+        <source>Language of the keywords</source>
+        <translation>Sprache der Schlüsselwörter</translation>
+    </message>
+    <message>
+        <source>Options to print</source>
+        <translation>Auszugebende Optionen</translation>
+    </message>
+    <message>
+        <source>ECHO lines</source>
+        <translation>ECHO-Zeilen</translation>
+    </message>
+    <message>
+        <source>Recent &amp;projects</source>
+        <translation>Zuletzt geöffnete &amp;Projekte</translation>
+    </message>
+    <message>
+        <source>Save &amp;as…</source>
+        <translation>Speichern &amp;unter …</translation>
+    </message>
+    <message>
+        <source>Re&amp;name…</source>
+        <translation>&amp;Umbenennen …</translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate…</source>
+        <translation>&amp;Duplizieren …</translation>
+    </message>
+    <message>
+        <source>&amp;Copy ECHO lines</source>
+        <translation>ECHO-Zeilen &amp;kopieren</translation>
+    </message>
+    <message>
+        <source>Options with a numeric level write no ECHO line.</source>
+        <translation>Optionen mit Zahlenstufe schreiben keine ECHO-Zeile.</translation>
+    </message>
+    <message>
+        <source>Assertion failed: %1</source>
+        <translation>Zusicherung verletzt: %1</translation>
     </message>
     <message>
         <source>Projects (*.tiv)</source>
         <translation>Projekte (*.tiv)</translation>
     </message>
     <message>
+        <source>New project</source>
+        <translation>Neues Projekt</translation>
+    </message>
+    <message>
         <source>Open project</source>
         <translation>Projekt öffnen</translation>
+    </message>
+    <message>
+        <source>You have changed the task &quot;%1&quot;. Another program has changed or removed it, too.</source>
+        <translation>Sie haben die Aufgabe „%1“ geändert. Ein anderes Programm hat sie ebenfalls geändert oder entfernt.</translation>
+    </message>
+    <message>
+        <source>Keep &amp;mine</source>
+        <translation>&amp;Meine behalten</translation>
+    </message>
+    <message>
+        <source>Take &amp;theirs</source>
+        <translation>&amp;Andere übernehmen</translation>
+    </message>
+    <message>
+        <source>Save project as</source>
+        <translation>Projekt speichern unter</translation>
     </message>
     <message>
         <source>%1 has unsaved changes.</source>
@@ -223,6 +375,14 @@
     <message>
         <source>Export ECHO lines</source>
         <translation>ECHO-Zeilen exportieren</translation>
+    </message>
+    <message>
+        <source>Rename the task</source>
+        <translation>Aufgabe umbenennen</translation>
+    </message>
+    <message>
+        <source>Duplicate the task</source>
+        <translation>Aufgabe duplizieren</translation>
     </message>
     <message>
         <source>Remove the task &quot;%1&quot; and its settings?</source>
@@ -235,6 +395,10 @@
     <message>
         <source>The stored settings cannot be read: %1. They are kept until you change an option or use the defaults.</source>
         <translation>Die gespeicherten Einstellungen sind nicht lesbar: %1. Sie bleiben erhalten, bis Sie eine Option ändern oder die Standardwerte übernehmen.</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
     </message>
 </context>
 </TS>

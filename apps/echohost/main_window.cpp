@@ -1,33 +1,28 @@
 #include "apps/echohost/main_window.h"
 
-#include "apps/echohost/appearance.h"
 #include "apps/echohost/dialogs.h"
+#include "apps/echohost/messages.h"
 #include "apps/echohost/programs.h"
+#include "ui_main_window.h"
 
 #include <QActionGroup>
+#include <QClipboard>
 #include <QCloseEvent>
-#include <QComboBox>
-#include <QCoreApplication>
+#include <QDropEvent>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFontDatabase>
-#include <QHBoxLayout>
+#include <QGuiApplication>
 #include <QHeaderView>
-#include <QLabel>
-#include <QLibraryInfo>
-#include <QMenuBar>
-#include <QMessageBox>
-#include <QPlainTextEdit>
+#include <QMimeData>
 #include <QPushButton>
 #include <QSaveFile>
+#include <QScreen>
+#include <QSettings>
 #include <QSignalBlocker>
-#include <QSplitter>
-#include <QStackedWidget>
-#include <QStatusBar>
-#include <QToolButton>
-#include <QTreeWidget>
-#include <QVBoxLayout>
+#include <QUrl>
 
+#include <algorithm>
 #include <stdexcept>
 
 namespace echohost {
@@ -35,186 +30,149 @@ namespace {
 
 enum Choice { AsSet, AllOff, AllFull };
 
-// A column of the window: a line of controls, and views below it.
-QVBoxLayout* makePanel(QSplitter* parent, const std::vector<QWidget*>& controls) {
-    auto* line = new QHBoxLayout;
-    for (QWidget* control : controls) {
-        control->setMinimumHeight(QComboBox().sizeHint().height());  // the views begin at one height
-        line->addWidget(control);
-    }
-    line->addStretch();
-    auto* panel = new QWidget;
-    parent->addWidget(panel);
-    auto* layout = new QVBoxLayout(panel);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addLayout(line);
-    return layout;
+constexpr int recentCount = 8;
+constexpr QLatin1String recentKey("recentProjects");
+constexpr QLatin1String geometryKey("geometry");
+constexpr QLatin1String panelsKey("panels");
+constexpr QLatin1String languageKey("language");
+constexpr QLatin1String darkKey("dark");
+
+QString projectFile(const QString& chosen) {
+    const QLatin1String suffix(".tiv");
+    return chosen.isEmpty() || chosen.endsWith(suffix, Qt::CaseInsensitive) ? chosen : chosen + suffix;
 }
 
-QToolButton* makeButton(QAction* action) {
-    auto* button = new QToolButton;
-    button->setDefaultAction(action);
-    return button;
+// Of the one file that was dropped; empty for anything else.
+QString droppedFile(const QMimeData* data) {
+    const auto urls = data->urls();
+    return urls.size() == 1 ? urls.front().toLocalFile() : QString();
 }
 
-// Before English, in which the texts are written.
-bool wantsGerman(const QLocale& locale) {
-    for (const QString& name : locale.uiLanguages()) {
-        const QLocale::Language language = QLocale(name).language();
-        if (language == QLocale::German) return true;
-        if (language == QLocale::English) return false;
-    }
-    return false;
+void writeFile(const QString& file, const QByteArray& content) {
+    QSaveFile output(file);
+    // Asked of flush(): commit() of Qt 5 does not report that the disk is full.
+    const bool isWritten = output.open(QIODevice::WriteOnly) && output.write(content) == content.size() &&
+                           output.flush() && output.commit();
+    if (!isWritten) throw std::runtime_error((file + ": " + output.errorString()).toStdString());
 }
 
 }  // namespace
 
 MainWindow::MainWindow()
     : previousReporter_(tiv::smartassert::setReporter([this](const tiv::smartassert::Report& report) {
+          const bool isLevel = report.source == "echo/src/utils" && report.line == 48;
           const auto expression = QString::fromStdString(std::string(report.expression));
-          statusBar()->showMessage(tr("Assertion failed: %1").arg(expression), 10000);
-      })) {
-    setLanguage(QLocale());
-    makeMenus();
-    makePanels();
-    retranslate();
-    resize(1160, 560);
+          statusBar()->showMessage(isLevel ? tr("Options with a numeric level write no ECHO line.")
+                                           : tr("Assertion failed: %1").arg(expression),
+              10000);
+      })),
+      ui_(std::make_unique<Ui::MainWindow>()) {
+    tiv::dbo::setBusyTimeout(std::chrono::milliseconds(500));  // the window does not react while it waits
+    const QString language = QSettings().value(languageKey).toString();
+    languages_.choose(language.isEmpty() ? QLocale() : QLocale(language));
+    ui_->setupUi(this);
+    ui_->addButton->setDefaultAction(ui_->addTask);
+    ui_->removeButton->setDefaultAction(ui_->removeTask);
+    ui_->copyButton->setDefaultAction(ui_->copyLines);
+    ui_->tasks->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    ui_->tasks->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
+    ui_->messageBar->setBackgroundRole(QPalette::ToolTipBase);
+    ui_->message->setForegroundRole(QPalette::ToolTipText);
+    ui_->preview->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    ui_->keywordLanguage->setCurrentIndex(Languages::current().language() == QLocale::German ? 0 : 1);
+    fillLanguageMenu();
+    connectActions();
+    restoreSettings();
+    refresh();
 }
 
 MainWindow::~MainWindow() {
     tiv::smartassert::setReporter(previousReporter_);
 }
 
-// ---- the parts of the window ----
-
-void MainWindow::setText(QObject* widget, const char* text) {
-    sources_.emplace_back(widget, text);
-}
-
-QMenu* MainWindow::makeMenu(const char* title) {
-    QMenu* menu = menuBar()->addMenu(QString());
-    setText(menu->menuAction(), title);
-    return menu;
-}
-
-QAction* MainWindow::makeAction(QMenu* menu, const char* text, const QKeySequence& keys, Slot slot) {
-    QAction* action = menu->addAction(QString());
-    action->setShortcut(keys);
-    setText(action, text);
-    connect(action, &QAction::triggered, this, [this, slot] { attempt([this, slot] { (this->*slot)(); }); });
-    return action;
-}
-
-// Undo and redo have no entry: they belong to the inspector that has the focus, and so do their keys.
-void MainWindow::makeMenus() {
-    QMenu* file = makeMenu(QT_TR_NOOP("&File"));
-    makeAction(file, QT_TR_NOOP("&New project…"), QKeySequence::New, &MainWindow::newProject);
-    makeAction(file, QT_TR_NOOP("&Open project…"), QKeySequence::Open, &MainWindow::chooseProject);
-    save_ = makeAction(file, QT_TR_NOOP("&Save"), QKeySequence::Save, &MainWindow::saveProject);
-    export_ = makeAction(file, QT_TR_NOOP("&Export ECHO lines…"), {}, &MainWindow::exportLines);
-    file->addSeparator();
-    QAction* quit = file->addAction(QString(), this, &QWidget::close, QKeySequence::Quit);
-    setText(quit, QT_TR_NOOP("&Quit"));
-
-    QMenu* task = makeMenu(QT_TR_NOOP("&Task"));
-    add_ = makeAction(task, QT_TR_NOOP("&Add…"), {}, &MainWindow::addTask);
-    remove_ = makeAction(task, QT_TR_NOOP("&Remove"), {}, &MainWindow::removeTask);
-
-    QMenu* view = makeMenu(QT_TR_NOOP("&View"));
-    QMenu* languages = view->addMenu(QString());
-    setText(languages->menuAction(), QT_TR_NOOP("&Language"));
-    auto* group = new QActionGroup(this);
-    for (const auto language : {QLocale::English, QLocale::German}) {
-        const QLocale locale(language);
-        QAction* action = languages->addAction(language == QLocale::German ? "Deutsch" : "English");
-        action->setCheckable(true);
-        action->setChecked((QLocale().language() == QLocale::German) == (language == QLocale::German));
-        group->addAction(action);
-        connect(action, &QAction::triggered, this, [this, locale] { setLanguage(locale); });
-    }
-    QAction* dark = view->addAction(QString());
-    dark->setCheckable(true);
-    dark->setChecked(isDark());
-    setText(dark, QT_TR_NOOP("&Dark"));
-    connect(dark, &QAction::toggled, this, &setDark);
-}
-
-void MainWindow::makePanels() {
-    auto* panels = new QSplitter;
-    panels->setContentsMargins(6, 6, 6, 0);
-    setCentralWidget(panels);
-
-    tasks_ = new QTreeWidget;
-    tasks_->setColumnCount(2);
-    tasks_->setRootIsDecorated(false);
-    tasks_->header()->setStretchLastSection(false);
-    tasks_->header()->setSectionResizeMode(0, QHeaderView::Stretch);
-    tasks_->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
-    connect(tasks_, &QTreeWidget::currentItemChanged, this, [this] { attempt([this] { showTask(); }); });
-    makePanel(panels, {makeButton(add_), makeButton(remove_)})->addWidget(tasks_);
-
-    messageBar_ = new QFrame;
-    messageBar_->setObjectName(QStringLiteral("messageBar"));
-    messageBar_->setBackgroundRole(QPalette::ToolTipBase);
-    messageBar_->setAutoFillBackground(true);
-    message_ = new QLabel;
-    message_->setForegroundRole(QPalette::ToolTipText);
-    message_->setTextFormat(Qt::PlainText);
-    message_->setWordWrap(true);
-    auto* replace = new QPushButton;
-    setText(replace, QT_TR_NOOP("Use defaults"));
-    connect(replace, &QPushButton::clicked, this, [this] { attempt([this] { replaceSettings(); }); });
-    auto* bar = new QHBoxLayout(messageBar_);
-    bar->addWidget(message_, 1);
-    bar->addWidget(replace);
-    heading_ = new QLabel;
-    inspectors_ = new QStackedWidget;
-    QVBoxLayout* middle = makePanel(panels, {heading_});
-    middle->addWidget(messageBar_);
-    middle->addWidget(inspectors_, 1);
-
-    language_ = new QComboBox;
-    language_->addItems({QString(), QString()});
-    language_->setCurrentIndex(QLocale().language() == QLocale::German ? 0 : 1);
-    choice_ = new QComboBox;
-    choice_->addItems({QString(), QString(), QString()});
-    for (QComboBox* box : {language_, choice_})
+void MainWindow::connectActions() {
+    const std::pair<QAction*, void (MainWindow::*)()> commands[] = {
+        {ui_->newProject, &MainWindow::newProject},
+        {ui_->openProject, &MainWindow::chooseProject},
+        {ui_->save, &MainWindow::saveProject},
+        {ui_->saveAs, &MainWindow::saveProjectAs},
+        {ui_->exportLines, &MainWindow::exportLines},
+        {ui_->addTask, &MainWindow::addTask},
+        {ui_->renameTask, &MainWindow::renameTask},
+        {ui_->duplicateTask, &MainWindow::duplicateTask},
+        {ui_->removeTask, &MainWindow::removeTask},
+    };
+    for (const auto& [action, slot] : commands)
+        connect(action, &QAction::triggered, this, [this, slot = slot] {
+            attempt([this, slot] { (this->*slot)(); });
+        });
+    const auto show = [this] { attempt([this] { showTask(); }); };
+    connect(ui_->tasks, &QTreeWidget::currentItemChanged, this, show);
+    connect(ui_->tasks, &QTreeWidget::itemActivated, this, [this, show] {
+        show();
+        ui_->inspectors->currentWidget()->setFocus();
+    });
+    connect(ui_->useDefaults, &QPushButton::clicked, this, [this] {
+        attempt([this] { currentTask()->replaceStored(); });
+    });
+    connect(ui_->copyLines, &QAction::triggered, this, [this] {
+        QGuiApplication::clipboard()->setText(lines());
+    });
+    for (QComboBox* box : {ui_->keywordLanguage, ui_->choice})
         connect(box, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &MainWindow::refresh);
-    preview_ = new QPlainTextEdit;
-    preview_->setReadOnly(true);
-    preview_->setLineWrapMode(QPlainTextEdit::NoWrap);
-    preview_->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    makePanel(panels, {language_, choice_})->addWidget(preview_);
+    connect(ui_->dark, &QAction::toggled, this, [this](bool dark) { appearance_.setDark(dark); });
+    connect(ui_->dark, &QAction::triggered, this, [](bool dark) { QSettings().setValue(darkKey, dark); });
+    connect(ui_->recentMenu, &QMenu::aboutToShow, this, &MainWindow::fillRecentMenu);
+}
 
-    panels->setSizes({210, 490, 460});
-    statusBar();  // from the start: the panels stay where they are when it speaks
+// ---- what is remembered ----
+
+void MainWindow::restoreSettings() {
+    fillRecentMenu();
+    const QSettings settings;
+    ui_->dark->setChecked(settings.value(darkKey).toBool());
+    if (!restoreGeometry(settings.value(geometryKey).toByteArray()))
+        resize(QSize(1160, 560).boundedTo(QGuiApplication::primaryScreen()->availableSize()));
+    if (!ui_->panels->restoreState(settings.value(panelsKey).toByteArray()))
+        ui_->panels->setSizes({210, 490, 460});
+}
+
+void MainWindow::setDark() {
+    ui_->dark->setChecked(true);
+}
+
+void MainWindow::fillRecentMenu() {
+    ui_->recentMenu->clear();
+    for (const QString& file : QSettings().value(recentKey).toStringList()) {
+        QString text = QDir::toNativeSeparators(file);
+        ui_->recentMenu->addAction(text.replace('&', QLatin1String("&&")), this, [this, file] {
+            if (mayLeave()) openProject(file);
+        });
+    }
 }
 
 // ---- languages ----
 
-void MainWindow::setLanguage(const QLocale& locale) {
-    QLocale::setDefault(locale);  // first: the library looks at it when a translator comes or goes
-    const QString folder = QLibraryInfo::location(QLibraryInfo::TranslationsPath);
-    for (QTranslator* translator : {&texts_, &qtTexts_}) QCoreApplication::removeTranslator(translator);
-    if (!wantsGerman(locale)) return;
-    if (qtTexts_.load(QStringLiteral("qtbase_de"), folder)) QCoreApplication::installTranslator(&qtTexts_);
-    if (texts_.load(QStringLiteral("echohost_de"), QStringLiteral(":/echohost")))
-        QCoreApplication::installTranslator(&texts_);
+void MainWindow::fillLanguageMenu() {
+    auto* group = new QActionGroup(this);
+    for (const QLocale& locale : Languages::offered()) {
+        const bool isEnglish = locale.language() == QLocale::English;
+        QAction* action =
+            ui_->languageMenu->addAction(isEnglish ? QStringLiteral("English") : locale.nativeLanguageName());
+        action->setCheckable(true);
+        action->setChecked(locale == Languages::current());
+        group->addAction(action);
+        connect(action, &QAction::triggered, this, [this, locale] {
+            languages_.choose(locale);
+            QSettings().setValue(languageKey, locale.name());
+        });
+    }
 }
 
 void MainWindow::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
-    if (event->type() == QEvent::LanguageChange) retranslate();
-}
-
-void MainWindow::retranslate() {
-    for (const auto& [widget, text] : sources_) widget->setProperty("text", tr(text));
-    tasks_->setHeaderLabels({tr("Task"), tr("Program")});
-    language_->setItemText(0, tr("German keywords"));
-    language_->setItemText(1, tr("English keywords"));
-    choice_->setItemText(AsSet, tr("Options as set"));
-    choice_->setItemText(AllOff, tr("All options off"));
-    choice_->setItemText(AllFull, tr("All options full"));
+    if (event->type() != QEvent::LanguageChange) return;
+    ui_->retranslateUi(this);
     refresh();
 }
 
@@ -224,39 +182,62 @@ void MainWindow::attempt(const std::function<void()>& action) {
     try {
         action();
     } catch (const std::exception& problem) {
-        QMessageBox::critical(this, QCoreApplication::applicationName(), QString::fromUtf8(problem.what()));
+        ask(QMessageBox::Critical,
+            translatedReason(QString::fromUtf8(problem.what())),
+            QMessageBox::Ok,
+            QMessageBox::Ok);
     }
     refresh();
 }
 
+QMessageBox::StandardButton MainWindow::ask(QMessageBox::Icon icon, const QString& text,
+    QMessageBox::StandardButtons buttons, QMessageBox::StandardButton harmless) {
+    QMessageBox box(icon, QCoreApplication::applicationName(), text, buttons, this);
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(harmless);
+    return static_cast<QMessageBox::StandardButton>(box.exec());
+}
+
+int MainWindow::ask(QMessageBox::Icon icon, const QString& text, const QStringList& answers) {
+    QMessageBox box(icon, QCoreApplication::applicationName(), text, QMessageBox::Cancel, this);
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(QMessageBox::Cancel);
+    std::vector<QAbstractButton*> buttons;
+    for (const QString& answer : answers) buttons.push_back(box.addButton(answer, QMessageBox::AcceptRole));
+    box.exec();
+    const auto clicked = std::find(buttons.begin(), buttons.end(), box.clickedButton());
+    return clicked == buttons.end() ? -1 : static_cast<int>(clicked - buttons.begin());
+}
+
 void MainWindow::openProject(const QString& file) {
     attempt([&] {
-        auto project = std::make_unique<Project>(file);
-        {
-            const QSignalBlocker quiet(tasks_);
-            tasks_->clear();
-        }
-        while (QWidget* page = inspectors_->widget(0)) delete page;
-        project_ = std::move(project);
-        for (std::size_t i = 0; i < project_->tasks().size(); ++i) appendRow();
-        tasks_->setCurrentItem(tasks_->topLevelItem(0));
+        project_ = std::make_unique<Project>(file);
+        const QString path = QFileInfo(file).absoluteFilePath();
+        QStringList recent = QSettings().value(recentKey).toStringList();
+        recent.removeAll(path);
+        recent.prepend(path);
+        QSettings().setValue(recentKey, QStringList(recent.mid(0, recentCount)));
+        listTasks({});
+        ui_->inspectors->currentWidget()->setFocus();
     });
+}
+
+QString MainWindow::askNewFile(const QString& title) {
+    return projectFile(QFileDialog::getSaveFileName(this,
+        title,
+        project_ ? QFileInfo(project_->file()).path() : QString(),
+        tr("Projects (*.tiv)"),
+        nullptr,
+        QFileDialog::DontConfirmOverwrite));  // a project is never overwritten
 }
 
 void MainWindow::newProject() {
     if (!mayLeave()) return;
     const auto counts = askElementCounts(this);
     if (!counts) return;
-    QString file = QFileDialog::getSaveFileName(this,
-        tr("New project"),
-        QString(),
-        tr("Projects (*.tiv)"),
-        nullptr,
-        QFileDialog::DontConfirmOverwrite);  // a project is never overwritten
+    const QString file = askNewFile(tr("New project"));
     if (file.isEmpty()) return;
-    const QLatin1String suffix(".tiv");
-    if (!file.endsWith(suffix, Qt::CaseInsensitive)) file += suffix;
-    createProject(file, *counts);
+    tiv::dbo::closeProject(tiv::dbo::createProject(file.toStdString(), *counts));
     openProject(file);
 }
 
@@ -268,36 +249,78 @@ void MainWindow::chooseProject() {
 }
 
 void MainWindow::saveProject() {
-    project_->save();
+    const QString selected = currentTask() ? currentTask()->name() : QString();
+    try {
+        if (project_->save([this](const QString& task) { return askWhoseToKeep(task); })) listTasks(selected);
+        return;
+    } catch (const std::exception& problem) {
+        const int answer = ask(QMessageBox::Critical,
+            translatedReason(QString::fromUtf8(problem.what())),
+            {ui_->saveAs->text()});
+        if (answer == 0) saveProjectAs();
+    }
+}
+
+Project::Keep MainWindow::askWhoseToKeep(const QString& task) {
+    const int answer = ask(QMessageBox::Warning,
+        tr("You have changed the task \"%1\". Another program has changed or removed it, too.").arg(task),
+        {tr("Keep &mine"), tr("Take &theirs")});
+    constexpr Project::Keep keeps[] = {Project::Keep::Mine, Project::Keep::Theirs};
+    return answer < 0 ? Project::Keep::Neither : keeps[answer];
+}
+
+void MainWindow::saveProjectAs() {
+    const QString file = askNewFile(tr("Save project as"));
+    if (file.isEmpty()) return;
+    const int row = currentRow();
+    project_->copyTo(file);
+    openProject(file);
+    ui_->tasks->setCurrentItem(ui_->tasks->topLevelItem(row));
 }
 
 bool MainWindow::mayLeave() {
     if (!project_ || !project_->isChanged()) return true;
-    const auto answer = QMessageBox::warning(this,
-        QCoreApplication::applicationName(),
+    const auto answer = ask(QMessageBox::Warning,
         tr("%1 has unsaved changes.").arg(QFileInfo(project_->file()).fileName()),
-        QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
+        QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel,
+        QMessageBox::Save);
     if (answer == QMessageBox::Save) attempt([this] { saveProject(); });
     return answer == QMessageBox::Discard || !project_->isChanged();
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
     event->setAccepted(mayLeave());
+    if (!event->isAccepted()) return;
+    QSettings settings;
+    settings.setValue(geometryKey, saveGeometry());
+    settings.setValue(panelsKey, ui_->panels->saveState());
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+    if (!droppedFile(event->mimeData()).isEmpty()) event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+    const QString file = droppedFile(event->mimeData());
+    event->acceptProposedAction();
+    // Queued: a question would keep the program waiting from which the file was dragged.
+    QMetaObject::invokeMethod(
+        this,
+        [this, file] {
+            if (mayLeave()) openProject(file);
+        },
+        Qt::QueuedConnection);
 }
 
 void MainWindow::exportLines() {
     const QString file = QFileDialog::getSaveFileName(this, tr("Export ECHO lines"));
-    if (file.isEmpty()) return;
-    QSaveFile output(file);
-    const bool written =
-        output.open(QIODevice::WriteOnly) && output.write(lines().toUtf8()) >= 0 && output.commit();
-    if (!written) throw std::runtime_error((file + ": " + output.errorString()).toStdString());
+    if (!file.isEmpty()) writeFile(file, lines().toUtf8());
 }
 
 // ---- its tasks ----
 
 int MainWindow::currentRow() const {
-    return tasks_->indexOfTopLevelItem(tasks_->currentItem());
+    return ui_->tasks->indexOfTopLevelItem(ui_->tasks->currentItem());
 }
 
 Task* MainWindow::currentTask() const {
@@ -305,90 +328,123 @@ Task* MainWindow::currentTask() const {
     return row < 0 ? nullptr : project_->tasks()[static_cast<std::size_t>(row)].get();
 }
 
-void MainWindow::appendRow() {
-    inspectors_->addWidget(new QWidget);
-    tasks_->addTopLevelItem(new QTreeWidgetItem);
+void MainWindow::listTasks(const QString& selected) {
+    {
+        const QSignalBlocker quiet(ui_->tasks);
+        ui_->tasks->clear();
+        for (const auto& task : project_->tasks()) {
+            auto* item = new QTreeWidgetItem(ui_->tasks);
+            if (!ui_->tasks->currentItem() || task->name() == selected) ui_->tasks->setCurrentItem(item);
+        }
+    }
+    showTask();
 }
 
 void MainWindow::showTask() {
     Task* task = currentTask();
-    if (!task) return;
-    QWidget* page = inspectors_->widget(currentRow());
-    if (!page->layout()) {
-        QWidget* inspector = task->echo().createPropertyInspector(page);
-        // By name: the inspector's class is the library's own.
-        connect(inspector, SIGNAL(settingsChanged()), this, SLOT(refresh()));
-        auto* layout = new QVBoxLayout(page);
-        layout->setContentsMargins(0, 0, 0, 0);
-        layout->addWidget(inspector);
+    // Also in case that the table cannot be made.
+    if (!task || !task->madeEcho()) ui_->inspectors->setCurrentWidget(ui_->nothing);
+    if (task) ui_->inspectors->setCurrentWidget(pageOf(task->echo()));
+}
+
+QWidget* MainWindow::pageOf(tiv::echo::EchoData& echo) {
+    if (QWidget* page = pages_[&echo]) return page;
+    QWidget* inspector = echo.createPropertyInspector(this);
+    // By name: the inspector's class is the library's own.
+    connect(inspector, SIGNAL(settingsChanged()), this, SLOT(refresh()));
+    connect(&echo, &QObject::destroyed, inspector, [inspector] { delete inspector; });
+    ui_->inspectors->addWidget(inspector);
+    // The new widgets are at the end of the tab order. What is right of them goes behind them.
+    QWidget* last = previousInFocusChain();
+    while (last->focusPolicy() == Qt::NoFocus) last = last->previousInFocusChain();
+    for (QWidget* widget :
+        std::initializer_list<QWidget*>{ui_->keywordLanguage, ui_->choice, ui_->copyButton, ui_->preview}) {
+        setTabOrder(last, widget);
+        last = widget;
     }
-    inspectors_->setCurrentWidget(page);
+    pages_[&echo] = inspector;
+    return inspector;
 }
 
 void MainWindow::addTask() {
-    const auto task = askNewTask(this);
+    const auto task = askNewTask(this, [this](const QString& name) { return project_->hasTask(name); });
     if (!task) return;
     project_->addTask(task->name, task->programType);
-    appendRow();
-    tasks_->setCurrentItem(tasks_->topLevelItem(tasks_->topLevelItemCount() - 1));
+    listTasks(task->name);
+}
+
+void MainWindow::renameTask() {
+    const QString present = currentTask()->name();
+    const auto name = askTaskName(this, tr("Rename the task"), present, [&](const QString& typed) {
+        return typed != present && project_->hasTask(typed);
+    });
+    if (name) currentTask()->rename(*name);
+}
+
+void MainWindow::duplicateTask() {
+    const auto name =
+        askTaskName(this, tr("Duplicate the task"), currentTask()->name(), [this](const QString& typed) {
+            return project_->hasTask(typed);
+        });
+    if (!name) return;
+    const auto row = currentTask()->row();
+    project_->addTask(*name, row.programType, row.settings);
+    listTasks(*name);
 }
 
 void MainWindow::removeTask() {
     const int row = currentRow();
-    const auto answer = QMessageBox::question(this,
-        QCoreApplication::applicationName(),
-        tr("Remove the task \"%1\" and its settings?").arg(currentTask()->name()));
+    const auto answer = ask(QMessageBox::Question,
+        tr("Remove the task \"%1\" and its settings?").arg(currentTask()->name()),
+        QMessageBox::Yes | QMessageBox::No,
+        QMessageBox::No);
     if (answer != QMessageBox::Yes) return;
-    {
-        const QSignalBlocker quiet(tasks_);
-        delete tasks_->takeTopLevelItem(row);
-    }
-    delete inspectors_->widget(row);
+    const auto& tasks = project_->tasks();
     project_->removeTask(static_cast<std::size_t>(row));
-    showTask();
-}
-
-void MainWindow::replaceSettings() {
-    currentTask()->replaceStored();
+    const auto next = std::min(static_cast<std::size_t>(row), tasks.size() - 1);
+    listTasks(tasks.empty() ? QString() : tasks[next]->name());
 }
 
 // ---- what follows ----
 
 QString MainWindow::lines() const {
     Task* task = currentTask();
-    if (!task) return {};
-    const int choice = choice_->currentIndex();
+    if (!task || !task->madeEcho()) return {};
+    const int choice = ui_->choice->currentIndex();
     QString text;
     for (const QString& line :
-        task->echo().getTELINP(choice != AsSet, choice == AllFull, language_->currentIndex()))
+        task->madeEcho()->getTELINP(choice != AsSet, choice == AllFull, ui_->keywordLanguage->currentIndex()))
         text += line + '\n';
     return text;
 }
 
 void MainWindow::refresh() {
     const Task* task = currentTask();
-    setWindowTitle(
-        project_ ? QFileInfo(project_->file()).fileName() + "[*]" : QCoreApplication::applicationName());
+    const QString file = project_ ? QFileInfo(project_->file()).fileName() : QString();
+    setWindowTitle(project_ ? QString(file).replace(QLatin1String("[*]"), QLatin1String("[*][*]")) + "[*]"
+                            : QCoreApplication::applicationName());
     setWindowModified(project_ && project_->isChanged());
-    save_->setEnabled(isWindowModified());
-    add_->setEnabled(project_ != nullptr);
-    for (QAction* action : {export_, remove_}) action->setEnabled(task);
+    ui_->save->setEnabled(isWindowModified());
+    for (QAction* action : {ui_->saveAs, ui_->addTask}) action->setEnabled(project_ != nullptr);
+    for (QAction* action :
+        {ui_->exportLines, ui_->copyLines, ui_->renameTask, ui_->duplicateTask, ui_->removeTask})
+        action->setEnabled(task);
 
-    for (int row = 0; row < tasks_->topLevelItemCount(); ++row) {
+    for (int row = 0; row < ui_->tasks->topLevelItemCount(); ++row) {
         const Task& shown = *project_->tasks()[static_cast<std::size_t>(row)];
-        QTreeWidgetItem* item = tasks_->topLevelItem(row);
+        QTreeWidgetItem* item = ui_->tasks->topLevelItem(row);
         item->setText(0, shown.name());
         item->setText(1, programName(shown.programType()));
         item->setToolTip(1, programDescription(shown.programType()));
     }
-    heading_->setText(task ? programDescription(task->programType()) : tr("No task is selected."));
+    ui_->heading->setText(task ? programDescription(task->programType()) : tr("No task is selected."));
     const QString problem = task ? task->problem() : QString();
-    messageBar_->setVisible(!problem.isEmpty());
-    message_->setText(
+    ui_->messageBar->setVisible(!problem.isEmpty());
+    ui_->message->setText(
         tr("The stored settings cannot be read: %1. They are kept until you change an option "
            "or use the defaults.")
-            .arg(problem));
-    preview_->setPlainText(lines());
+            .arg(translatedReason(problem)));
+    ui_->preview->setPlainText(lines());
 }
 
 }  // namespace echohost

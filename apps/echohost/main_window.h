@@ -6,30 +6,27 @@
 //     window.openProject("house.tiv");
 #pragma once
 
+#include "apps/echohost/appearance.h"
+#include "apps/echohost/languages.h"
 #include "apps/echohost/project.h"
 
 #include <tiv/smartassert/smart_assert.h>
 
-#include <QLocale>
 #include <QMainWindow>
-#include <QTranslator>
+#include <QMessageBox>
+#include <QPointer>
 
 #include <functional>
+#include <map>
 #include <memory>
-#include <utility>
-#include <vector>
-
-class QComboBox;
-class QFrame;
-class QKeySequence;
-class QLabel;
-class QMenu;
-class QPlainTextEdit;
-class QStackedWidget;
-class QTreeWidget;
 
 namespace echohost {
 
+namespace Ui {
+class MainWindow;
+}
+
+// Its geometry, panels, language and colours are kept in QSettings.
 class MainWindow : public QMainWindow {
     Q_OBJECT
  public:
@@ -37,62 +34,63 @@ class MainWindow : public QMainWindow {
     MainWindow();
     ~MainWindow() override;
 
-    // Shows the project; what went wrong is said in a message box.
+    // Errors are shown in a message box.
     void openProject(const QString& file);
+    // Until the program ends; the setting stays.
+    void setDark();
 
  protected:
     void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
  private:
-    // Brings everything up to date that follows from the project, the selected task and its options.
+    // Brings everything up to date that follows from the project, the selected task and its options. Throws
+    // nothing.
     Q_SLOT void refresh();
 
-    using Slot = void (MainWindow::*)();
-
-    void makeMenus();
-    void makePanels();
-    QMenu* makeMenu(const char* title);
-    QAction* makeAction(QMenu* menu, const char* text, const QKeySequence& keys, Slot slot);
-    void setText(QObject* widget, const char* text);
-    void retranslate();
-    void setLanguage(const QLocale& locale);
+    void connectActions();
+    void fillLanguageMenu();
+    void fillRecentMenu();
+    void restoreSettings();
 
     void newProject();
     void chooseProject();
     void saveProject();
+    void saveProjectAs();
     void exportLines();
     void addTask();
+    void renameTask();
+    void duplicateTask();
     void removeTask();
-    void replaceSettings();
+    // Without such a task, the first one is selected.
+    void listTasks(const QString& selected);
     void showTask();
+    QWidget* pageOf(tiv::echo::EchoData& echo);
 
     // Qt cannot pass exceptions through its event loop: they end here, as a message. Refreshes.
     void attempt(const std::function<void()>& action);
+    // Enter gives the harmless answer.
+    QMessageBox::StandardButton ask(QMessageBox::Icon icon, const QString& text,
+        QMessageBox::StandardButtons buttons, QMessageBox::StandardButton harmless);
+    // The place of the answer that was clicked; -1 for Cancel, the default.
+    int ask(QMessageBox::Icon icon, const QString& text, const QStringList& answers);
+    Project::Keep askWhoseToKeep(const QString& task);
+    QString askNewFile(const QString& title);
     // False when the engineer would rather stay with the unsaved changes.
     bool mayLeave();
-    void appendRow();
+
     int currentRow() const;
     Task* currentTask() const;  // null when none is selected
     QString lines() const;      // the input lines of the current task
 
     tiv::smartassert::Reporter previousReporter_;
-    QTranslator texts_, qtTexts_;
-    std::vector<std::pair<QObject*, const char*>> sources_;  // English texts, set again in each language
-    std::unique_ptr<Project> project_;                       // null until one is open
-
-    QAction* save_ = nullptr;
-    QAction* export_ = nullptr;
-    QAction* add_ = nullptr;
-    QAction* remove_ = nullptr;
-    QTreeWidget* tasks_ = nullptr;          // one row for each task
-    QStackedWidget* inspectors_ = nullptr;  // one page for each row, filled when it is first shown
-    QLabel* heading_ = nullptr;
-    QFrame* messageBar_ = nullptr;
-    QLabel* message_ = nullptr;
-    QComboBox* language_ = nullptr;  // of the keywords, in the library's order
-    QComboBox* choice_ = nullptr;
-    QPlainTextEdit* preview_ = nullptr;
+    Appearance appearance_;
+    Languages languages_;
+    std::unique_ptr<Ui::MainWindow> ui_;
+    std::map<const QObject*, QPointer<QWidget>> pages_;  // of the echo tables that were shown
+    std::unique_ptr<Project> project_;                   // null until one is open
 };
 
 }  // namespace echohost

@@ -1,13 +1,13 @@
-// The document of the sample host: a project database with its analysis tasks. Of a task's options the
-// host knows nothing but the text that the library makes of them.
+// The document of the sample host: a project database with its analysis tasks. The host treats a task's
+// settings as an opaque text.
 //
 //     Project project("house.tiv");
 //     Task& task = *project.tasks()[0];
 //     layout->addWidget(task.echo().createPropertyInspector(this));   // the engineer edits
 //     for (const QString& line : task.echo().getTELINP(false, false, 0)) input << line << '\n';
-//     project.save();
+//     project.save(askWhoseToKeep);
 //
-// What the database refuses is thrown as std::runtime_error "<path>: <reason>".
+// Errors of the database are thrown as std::runtime_error "<path>: <reason>".
 #pragma once
 
 #include <tiv/dbo/dbo.h>
@@ -15,8 +15,10 @@
 
 #include <QString>
 
-#include <array>
+#include <functional>
 #include <memory>
+#include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -24,42 +26,47 @@ namespace echohost {
 
 class Task {
  public:
-    Task(tiv::dbo::Task stored, int database);
+    // `stored` is the row of the project file; a new task has none.
+    Task(std::optional<tiv::dbo::Task> stored, tiv::dbo::Task row, int database);
 
-    QString name() const { return QString::fromStdString(task_.name); }
-    int programType() const { return task_.programType; }
+    QString name() const { return QString::fromStdString(row_.name); }
+    void rename(const QString& name) { row_.name = name.toStdString(); }
+    int programType() const { return row_.programType; }
 
-    // Made when it is first asked for.
+    // Made at the first call, which reads from the database.
     tiv::echo::EchoData& echo();
+    // Null before that.
+    tiv::echo::EchoData* madeEcho() const { return echo_.get(); }
 
-    // The library's text, when it cannot read the stored settings; empty otherwise, and while they
-    // are to be replaced.
+    // Why the stored settings cannot be read, in English. Empty when they can, and while they are to be
+    // replaced.
     QString problem() const;
-
-    // Gives up the stored settings for those that the inspector shows, with the next save.
+    // On the next save, overwrites the stored settings with those shown.
     void replaceStored();
 
-    bool isChanged() const { return !isStored_ || isEdited(); }
+    const std::optional<tiv::dbo::Task>& stored() const { return stored_; }
+    // The row to be stored. Unless an option was changed, its settings are the stored text byte for byte, so
+    // that a text that the library cannot read is not lost.
+    tiv::dbo::Task row() const;
+    bool isChanged() const;
 
-    // Stores a task that has changed. Any other keeps its stored text byte for byte, so that a text that
-    // the library cannot read is not lost.
-    void save();
+    // The file now holds this row, or none. What was edited here is kept.
+    void setStored(const std::optional<tiv::dbo::Task>& stored) { stored_ = stored; }
+    // row() has been stored.
+    void markStored();
+    // Drops what was edited here.
+    void load(const tiv::dbo::Task& stored);
 
  private:
     bool isEdited() const;
 
-    tiv::dbo::Task task_;
+    std::optional<tiv::dbo::Task> stored_;
+    tiv::dbo::Task row_;
     int database_;
-    bool isStored_ = true;  // the project holds task_
     std::unique_ptr<tiv::echo::EchoData> echo_;
-    QString unedited_;  // what the library makes of task_.settings
+    QString unedited_;  // the library's text of row_.settings
     QString problem_;
 };
-
-using ElementCounts = std::array<int, 5>;  // in the order of tiv::dbo::ElementKind
-
-// A new project file. A refusal leaves none behind.
-void createProject(const QString& file, const ElementCounts& counts);
 
 class Project {
  public:
@@ -71,19 +78,34 @@ class Project {
     const QString& file() const { return file_; }
     const std::vector<std::unique_ptr<Task>>& tasks() const { return tasks_; }
 
-    // Throws std::invalid_argument when the name is empty or taken.
-    void addTask(const QString& name, int programType);
+    bool hasTask(const QString& name) const;
+    // The name must be free. Without settings, every option has its default.
+    void addTask(const QString& name, int programType, const std::optional<std::string>& settings = {});
     void removeTask(std::size_t index);
 
     bool isChanged() const;
-    // Where it throws, what was not yet stored is still a change.
-    void save();
+
+    enum class Keep { Mine, Theirs, Neither };
+    // Asked for a task that was changed here and, since it was read, by another program. Neither: do not save.
+    using Ask = std::function<Keep(const QString& task)>;
+
+    // Writes what was changed here, in one transaction, and reads what other programs have changed.
+    // Returns false if the engineer would not save. Then, and when it throws, nothing was written.
+    bool save(const Ask& ask);
+
+    // Writes everything that is shown here to a new project file.
+    void copyTo(const QString& file) const;
 
  private:
+    bool settle(
+        const std::set<std::string>& names, int database, const Ask& ask, std::set<const Task*>& dropped);
+    Task* changedTask(const std::string& name) const;
+    void read(int database);
+
     QString file_;
     int database_;
     std::vector<std::unique_ptr<Task>> tasks_;
-    std::vector<std::string> removed_;  // names to take out of the database
+    std::vector<tiv::dbo::Task> removed_;  // stored rows
 };
 
 }  // namespace echohost

@@ -3,22 +3,8 @@
 #include "inspector/driver.h"
 #include "support/reports.h"
 
-#include <QAbstractButton>
-#include <QAction>
-#include <QApplication>
-#include <QComboBox>
-#include <QFile>
-#include <QFileDialog>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMessageBox>
-#include <QPlainTextEdit>
-#include <QSpinBox>
-#include <QStackedWidget>
-#include <QStatusBar>
-#include <QTemporaryDir>
-#include <QTimer>
-#include <QTreeWidget>
+#include <QTest>
+#include <QtWidgets>
 
 #include <gtest/gtest.h>
 #include <sqlite3.h>
@@ -29,30 +15,35 @@ using namespace test;
 namespace dbo = tiv::dbo;
 using echohost::MainWindow;
 
-QString yesNo(bool yes) {
-    return yes ? "yes" : "no";
-}
-
 class Host : public testing::Test {
  protected:
     Host() {
+        QApplication::setStyle("windows");
+        QCoreApplication::setOrganizationName("tests");
+        QSettings::setDefaultFormat(QSettings::IniFormat);
+        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder.path());
         QObject::connect(&look_, &QTimer::timeout, [this] { answerDialog(); });
         look_.start(1);
     }
 
+    void openWindow() {
+        window.reset();
+        window = std::make_unique<MainWindow>();
+        window->show();
+    }
     void makeProject() {
         window.reset();
         QFile::remove(path);
-        const int database = dbo::createProject(path.toStdString());
+        QSettings().clear();
+        const int database = dbo::createProject(path.toStdString(), {0, 0, 7, 0, 0});
         dbo::storeTask(database, {"Slabs", 3, "ChAGAAA=\n"});
         dbo::storeTask(database, {"Frames", 10, "ChAGA wrong"});
         dbo::storeTask(database, {"Stages", 7, R"({"prop":{"cs":3}})"});
         dbo::closeProject(database);
-        window = std::make_unique<MainWindow>();
-        window->findChild<QComboBox*>()->setCurrentIndex(1);
-        window->show();
-        trigger("English");
+        QLocale::setDefault(QLocale::c());
+        openWindow();
         window->openProject(path);
+        chooseAbove("English keywords");
     }
 
     // Dialogs are answered in the order in which they open.
@@ -62,35 +53,51 @@ class Host : public testing::Test {
         const QString answer = answers.isEmpty() ? QString() : answers.takeFirst();
         if (auto* box = qobject_cast<QMessageBox*>(dialog)) {
             said << box->text().remove(folder.path() + '/');
-            for (QAbstractButton* button : box->buttons())
-                if (button->text().remove('&') == answer) return button->click();
-            ADD_FAILURE() << "no button " << answer.toStdString() << ": " << box->text().toStdString();
-            return void(box->close());
-        }
-        if (answer.isEmpty()) {
-            ADD_FAILURE() << "unexpected dialog";
-            return void(dialog->close());
+            EXPECT_EQ(box->textFormat(), Qt::PlainText);
+            if (answer == "Enter") return QTest::keyClick(box, Qt::Key_Return);
+            return press(box, answer);
         }
         if (auto* files = qobject_cast<QFileDialog*>(dialog)) {
             files->selectFile(file(answer));
-        } else if (auto* program = dialog->findChild<QComboBox*>()) {
-            dialog->findChild<QLineEdit*>()->setText(answer.section(" = ", 0, 0));
-            program->setCurrentIndex(answer.section(" = ", 1).toInt());
+            return void(QMetaObject::invokeMethod(files, "accept"));
         }
+        if (auto* name = dialog->findChild<QLineEdit*>("name")) name->setText(answer.section(" = ", 0, 0));
+        if (auto* program = dialog->findChild<QComboBox*>())
+            program->setCurrentIndex(answer.section(" = ", 1).toInt());
         const auto counts = dialog->findChildren<QSpinBox*>();
         for (int i = 0; i < counts.size(); ++i) counts[i]->setValue(answer.section(' ', i, i).toInt());
-        QMetaObject::invokeMethod(dialog, "accept");
+        const bool refused =
+            !dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->isEnabled();
+        if (refused) said << "refused";
+        press(dialog, refused ? "Cancel" : "OK");
+    }
+    static void press(QWidget* dialog, const QString& text) {
+        for (auto* button : dialog->findChildren<QAbstractButton*>())
+            if (button->text().remove('&') == text) return button->click();
+        ADD_FAILURE() << "no button " << text.toStdString() << " in " << dialog->metaObject()->className();
+        dialog->close();
     }
 
     QString file(const QString& name) const { return folder.filePath(name); }
     void trigger(const QString& text) const {
+        emit window->findChild<QMenu*>("recentMenu")->aboutToShow();
         for (QAction* action : window->findChildren<QAction*>())
-            if (action->text().remove('&') == text) return action->trigger();
+            if (action->text().remove('&').remove(folder.path() + '/') == text) return action->trigger();
         ADD_FAILURE() << "no action " << text.toStdString();
     }
     void chooseAbove(const QString& text) const {
         for (auto* box : window->findChildren<QComboBox*>())
-            if (box->findText(text) >= 0) box->setCurrentText(text);
+            if (box->findText(text) >= 0) return box->setCurrentText(text);
+        ADD_FAILURE() << "no choice " << text.toStdString();
+    }
+    void drop(const QString& name) const {
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(file(name))});
+        QDragEnterEvent enter({9, 99}, Qt::CopyAction, &data, Qt::LeftButton, {});
+        QApplication::sendEvent(window.get(), &enter);
+        ASSERT_TRUE(enter.isAccepted());
+        QDropEvent drop({9, 99}, Qt::CopyAction, &data, Qt::LeftButton, {});
+        QApplication::sendEvent(window.get(), &drop);
     }
     QTreeWidget* tasks() const { return window->findChild<QTreeWidget*>(); }
     QString names() const {
@@ -98,36 +105,36 @@ class Host : public testing::Test {
         for (int i = 0; i < tasks()->topLevelItemCount(); ++i) result << tasks()->topLevelItem(i)->text(0);
         return result.join('|');
     }
-    Driver inspector() const {
-        return Driver(
-            window->findChild<QStackedWidget*>()->currentWidget()->findChild<QTreeView*>()->parentWidget());
-    }
-    QFrame* messageBar() const { return window->findChild<QFrame*>("messageBar"); }
-    // What is in the project files.
-    QString stored() const {
+    Driver inspector() const { return Driver(window->findChild<QStackedWidget*>()->currentWidget()); }
+    // The accessible names of what the Tab key reaches.
+    QString stops() const {
         QStringList result;
-        const int database = dbo::openProject(path.toStdString());
-        for (const dbo::Task& task : dbo::tasks(database)) result << QString::fromStdString(task.settings);
-        dbo::closeProject(database);
+        QApplication::setActiveWindow(window.get());
+        for (int i = 0; i < 20; ++i) {
+            result << window->focusWidget()->accessibleName();
+            QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
+        }
+        result.removeDuplicates();
         return result.join('|');
     }
-    QString elements(const QString& name) const {
-        QStringList counts;
-        const int database = dbo::openProject(file(name).toStdString());
+    QLabel* message() const { return window->findChild<QLabel*>("message"); }
+    QString title() const {
+        if (!window->isVisible()) return "closed";
+        return window->windowTitle() + (window->isWindowModified() ? " is modified" : "");
+    }
+    // The content of a project file: its elements, and the settings of its tasks.
+    QString stored(const QString& name) const {
+        QStringList counts, settings;
+        const int database = dbo::openProject(name.toStdString());
         for (const auto has :
             {dbo::hasQuads, dbo::hasBrics, dbo::hasBeams, dbo::hasCables, dbo::hasSprings}) {
             int count = -1;
             has(database, &count);
             counts << QString::number(count);
         }
+        for (const dbo::Task& task : dbo::tasks(database)) settings << QString::fromStdString(task.settings);
         dbo::closeProject(database);
-        return counts.join(' ');
-    }
-    void storeTask(const QString& name, const QString& programAndSettings) const {
-        const int database = dbo::openProject(path.toStdString());
-        dbo::storeTask(database, {name.toStdString(), programAndSettings.section(' ', 0, 0).toInt(),
-                                     programAndSettings.section(' ', 1).toStdString()});
-        dbo::closeProject(database);
+        return name == path ? settings.join('|') : counts.join(' ') + '|' + settings.join('|');
     }
     QString content(const QString& name) const {
         QFile written(file(name));
@@ -151,39 +158,55 @@ TEST_F(Host, KeepsToItsSessions) {
         other = {connection, &sqlite3_close};
         sqlite3_exec(connection, "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr);
     };
+    const auto store = [&](const Words& w) {
+        const int database = dbo::openProject(path.toStdString());
+        const auto program = w.value.section(' ', 0, 0), settings = w.value.section(' ', 1);
+        if (program.isEmpty())
+            EXPECT_TRUE(dbo::removeTask(database, w.label.toStdString()));
+        else
+            dbo::storeTask(database, {w.label.toStdString(), program.toInt(), settings.toStdString()});
+        dbo::closeProject(database);
+    };
+    const auto look = [](const Words&) {
+        return QApplication::style()->objectName() + ' ' + QApplication::palette().window().color().name();
+    };
     const Does does{
         {"project", [&](const Words&) { makeProject(); }},
+        {"restart", [&](const Words&) { openWindow(); }},
         {"open", [&](const Words& w) { window->openProject(file(w.all)); }},
+        {"drop", [&](const Words& w) { drop(w.all); }},
         {"select", [&](const Words& w) { tasks()->setCurrentItem(tasks()->topLevelItem(w.all.toInt())); }},
         {"change", [&](const Words& w) { inspector().choose(w.label, w.value); }},
         {"answer", [&](const Words& w) { answers << w.all; }},
         {"do", [&](const Words& w) { trigger(w.all); }},
-        {"defaults", [&](const Words&) { messageBar()->findChild<QAbstractButton*>()->click(); }},
+        {"defaults", [&](const Words&) { window->findChild<QPushButton*>("useDefaults")->click(); }},
         {"undo", [&](const Words&) { inspector().key(Qt::Key_Z, Qt::ControlModifier); }},
         {"lines-in", [&](const Words& w) { chooseAbove(w.all); }},
-        {"store", [&](const Words& w) { storeTask(w.label, w.value); }},
+        {"store", store},
+        {"remove", store},
+        {"delete", [&](const Words&) { EXPECT_TRUE(QFile::remove(path)); }},
         {"lock", [&](const Words&) { lock(); }},
         {"unlock", [&](const Words&) { other.reset(); }},
+        {"resize", [&](const Words& w) { window->resize(w.all.toInt(), 333); }},
         {"close", [&](const Words&) { window->close(); }},
     };
     const Sees sees{
         {"lines", [&](const Words&) { return window->findChild<QPlainTextEdit*>()->toPlainText(); }},
-        {"title", [&](const Words&) { return window->windowTitle(); }},
-        {"modified", [&](const Words&) { return yesNo(window->isWindowModified()); }},
-        {"visible", [&](const Words&) { return yesNo(window->isVisible()); }},
+        {"copied", [&](const Words&) { return QApplication::clipboard()->text(); }},
+        {"title", [&](const Words&) { return title(); }},
+        {"width", [&](const Words&) { return QString::number(window->width()); }},
+        {"look", look},
+        {"stops", [&](const Words&) { return stops(); }},
         {"tasks", [&](const Words&) { return names(); }},
         {"heading", [&](const Words&) { return tasks()->headerItem()->text(0); }},
         {"rows", [&](const Words&) { return inspector().rows().join('|'); }},
         {"row", [&](const Words& w) { return w.label + " = " + inspector().row(w.label); }},
-        {"message",
-            [&](const Words&) {
-                return messageBar()->isVisible() ? messageBar()->findChild<QLabel*>()->text() : "";
-            }},
+        {"message", [&](const Words&) { return message()->isVisible() ? message()->text() : ""; }},
         {"said", [&](const Words&) { return std::exchange(said, {}).join('|'); }},
         {"status", [&](const Words&) { return window->statusBar()->currentMessage(); }},
-        {"stored", [&](const Words&) { return stored(); }},
+        {"stored", [&](const Words&) { return stored(path); }},
         {"file", [&](const Words& w) { return w.label + ": " + content(w.label); }},
-        {"elements", [&](const Words& w) { return w.label + ": " + elements(w.label); }},
+        {"elements", [&](const Words& w) { return w.label + ": " + stored(file(w.label)); }},
     };
     playSessions(TIV_SESSIONS, does, sees);
     EXPECT_TRUE(answers.isEmpty());

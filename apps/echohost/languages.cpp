@@ -1,0 +1,71 @@
+#include "apps/echohost/languages.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QLibraryInfo>
+#include <QStringList>
+
+#include <algorithm>
+
+namespace echohost {
+namespace {
+
+constexpr QLatin1String ownCatalogue("echohost_");
+constexpr QLatin1String libraryCatalogue("tiv_echotable_dll_");
+
+QStringList folders() {
+    const QString program = QCoreApplication::applicationDirPath();
+    return {program,
+        program + QStringLiteral("/" TIV_CATALOGUES),
+        QStringLiteral(":/echohost"),
+        QStringLiteral(":/tiv/translations")};
+}
+
+bool isEnglish(const QLocale& locale) {
+    return locale.language() == QLocale::English || locale.language() == QLocale::C;
+}
+
+bool load(QTranslator& translator, const QLocale& locale, QLatin1String catalogue, const QString& folder) {
+    return translator.load(locale, catalogue, QString(), folder) &&
+           QCoreApplication::installTranslator(&translator);
+}
+
+}  // namespace
+
+std::vector<QLocale> Languages::offered() {
+    QStringList names;
+    for (const QString& folder : folders())
+        for (const QLatin1String catalogue : {ownCatalogue, libraryCatalogue})
+            for (const QString& file : QDir(folder).entryList({catalogue + QLatin1String("*.qm")}))
+                names << file.mid(catalogue.size()).chopped(3);
+    names.sort();
+    names.removeDuplicates();
+    std::vector<QLocale> result{QLocale(QLocale::English)};
+    for (const QString& name : names)
+        if (const QLocale locale(name); !isEnglish(locale)) result.push_back(locale);
+    return result;
+}
+
+QLocale Languages::current() {
+    const auto languages = offered();
+    for (const QString& name : QLocale().uiLanguages()) {
+        const QLocale wanted(name);
+        if (isEnglish(wanted)) break;
+        const auto found = std::find(languages.begin(), languages.end(), wanted);
+        if (found != languages.end()) return *found;
+    }
+    return languages.front();
+}
+
+void Languages::choose(const QLocale& locale) {
+    QLocale::setDefault(locale);  // first: installing a translator makes the library read the locale again
+    for (QTranslator* translator : {&texts_, &qtTexts_}) QCoreApplication::removeTranslator(translator);
+    const QLocale language = current();
+    if (isEnglish(language)) return;
+    const QString qt = QLibraryInfo::location(QLibraryInfo::TranslationsPath);
+    load(qtTexts_, language, QLatin1String("qtbase_"), qt);
+    for (const QString& folder : folders())
+        if (load(texts_, language, ownCatalogue, folder)) return;
+}
+
+}  // namespace echohost

@@ -1,7 +1,7 @@
-// The library's German, from the moment it is loaded.
+// Installs the library's translation catalogue when the library is loaded.
 #include "platform/qt/init_translator.h"
 
-// The resources initialise themselves, but not before everything else that does.
+// The order of static initialisation is unspecified, so the resources are registered before the translator uses them.
 static const char* catalogue() {
     Q_INIT_RESOURCE(translations);
     return "tiv_echotable_dll";

@@ -13,8 +13,8 @@
 namespace tiv::qt {
 namespace {
 
-// Translates from the catalogue of the application's language, and changes it with that. It stays installed
-// itself, so that the host's translators keep their places before or behind it.
+// Translates from the catalogue of the application's language and reloads it when that changes. The translator
+// itself stays installed, so the order of the application's translators does not change.
 class Catalogue : public QTranslator {
  public:
     Catalogue(QString name, QCoreApplication* application)
@@ -25,7 +25,7 @@ class Catalogue : public QTranslator {
     }
 
     bool isEmpty() const override { return !current_; }
-    // Called in any thread.
+    // May be called in any thread.
     QString translate(
         const char* context, const char* text, const char* disambiguation, int n) const override {
         const QReadLocker lock(&lock_);
@@ -43,18 +43,18 @@ class Catalogue : public QTranslator {
         return false;
     }
 
-    // Whether the languages have changed.
+    // Returns whether the languages have changed.
     bool follow() {
         const QStringList languages = QLocale().uiLanguages();
         if (languages == languages_) return false;
         languages_ = languages;
-        auto next = catalogueOf(languages);  // holds what was current in the end, to go without the lock
+        auto next = catalogueOf(languages);  // destroys the previous catalogue after the lock is released
         const QWriteLocker lock(&lock_);
         current_.swap(next);
         return true;
     }
 
-    // None for English, in which the texts are written, or for languages that have none.
+    // Null for English, the language of the source texts, and if no language has a catalogue.
     std::unique_ptr<QTranslator> catalogueOf(const QStringList& languages) const {
         const QString folder = libraryFolder();
         const QString folders[] = {
@@ -70,12 +70,12 @@ class Catalogue : public QTranslator {
     }
 
     QString name_;
-    QStringList languages_;        // most wanted first
+    QStringList languages_;        // in order of preference
     mutable QReadWriteLock lock_;  // of current_
     std::unique_ptr<QTranslator> current_;
 };
 
-// A pre-routine has no argument: this code is linked into each library, which has one installer.
+// A pre-routine has no argument. This code is linked statically, so each library has its own installer.
 TIV_QT_InitTranslator* installer = nullptr;
 
 }  // namespace

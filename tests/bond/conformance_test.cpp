@@ -1,4 +1,4 @@
-// Answers recorded from releases of the genuine wire library, one JSON object a line:
+// Answers recorded from releases of the reference implementation, one JSON object a line:
 //
 //     {"category", "record", "op", "in", "out" | "error": {"type", "what"}, "variants"?, "silent_parse_error"?}
 //

@@ -1,4 +1,4 @@
-// For programs out of the documents: their reader closes the window after a moment.
+// Included into the programs of the documents: closes their window after a moment, as a reader would.
 #if __has_include(<QTimer>)
 #include <QCoreApplication>
 #include <QTimer>

@@ -1,11 +1,11 @@
 #!/usr/bin/env python3
-"""Does what README.md and docs/*.md tell their readers to do: every fenced block, in order, in one folder.
+"""Runs what README.md and docs/*.md ask their readers to do: every fenced block, in order, in one folder.
 
     ```sh                      runs and succeeds
     ```console                 each "$ command" prints exactly the lines below it
     ```cpp NAME.cpp            is the program ./NAME, built as README.md builds its host
     ```LANGUAGE FOLDER/FILE    is written there
-    ```LANGUAGE not run: WHY   is left alone, and so is ```text
+    ```LANGUAGE not run: WHY   is skipped, and so is ```text
 """
 import re
 import shutil
@@ -20,7 +20,7 @@ fence = re.compile(r"^```(\w*) ?(.*)\n((?s:.*?))^```$", re.M)
 def run(place, command, expected=None):
     done = subprocess.run(["bash", "-euo", "pipefail", "-c", command], cwd=scratch, text=True, timeout=240,
                           stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
-    printed = done.stdout.replace("This plugin does not support propagateSizeHints()\n", "")  # of no screen
+    printed = done.stdout.replace("This plugin does not support propagateSizeHints()\n", "")  # from the offscreen platform
     if printed != expected if expected is not None else done.returncode:
         sys.exit(f"{place}: {command}\nprinted:\n{printed}expected:\n{expected or 'success'}")
 
@@ -46,7 +46,7 @@ def follow(blocks):
             for command, output in re.findall(r"^\$ (.*)\n((?:(?!\$ ).*\n)*)", code, re.M):
                 run(place, command, output)
         elif language != "text" and not info:
-            sys.exit(f"{place}: what is to become of ```{language}?")
+            sys.exit(f"{place}: a block ```{language} needs a file name, or `not run: WHY`")
 
 
 readme = list(blocks_of(source / "README.md"))

@@ -48,9 +48,11 @@ int lastHandle = 0;
 std::chrono::milliseconds busyTimeout{500};
 
 Project* find(int database) {
-    const std::lock_guard lock(projectsMutex);
-    const auto found = projects.find(database);
-    if (found != projects.end()) return &found->second;
+    {
+        const std::lock_guard lock(projectsMutex);
+        const auto found = projects.find(database);
+        if (found != projects.end()) return &found->second;
+    }
     smartassert::SmartAssert(R"(0 && "invalid database handle")", "platform/dbo/dbo", 40);
     return nullptr;
 }
@@ -133,8 +135,9 @@ class Transaction {
 };
 
 void setTimeout(const Project& project) {
-    const auto most = std::chrono::milliseconds(std::numeric_limits<int>::max());
-    sqlite3_busy_timeout(project.connection.get(), static_cast<int>(std::min(busyTimeout, most).count()));
+    constexpr std::chrono::milliseconds most(std::numeric_limits<int>::max());
+    const auto wait = std::clamp(busyTimeout, std::chrono::milliseconds(0), most);
+    sqlite3_busy_timeout(project.connection.get(), static_cast<int>(wait.count()));
 }
 
 Project connect(const std::string& path, int flags) {
@@ -204,14 +207,16 @@ void writeProject(const Project& project, const ElementCounts& counts) {
     requireSameFile(project);
 }
 
-// Removes the empty file that a failed createProject has made. No other creator can commit to it while it is
-// read here; one that commits later finds out that its file is gone.
+// Removes the empty file that a failed createProject has made, unless another creator is writing to it.
 void removeEmptyFile(const Project& project) try {
-    execute(project, "BEGIN");
-    requireNone(project, "PRAGMA page_count");
+    sqlite3* connection = project.connection.get();
+    sqlite3_busy_timeout(connection, 0);
+    // The lock keeps others from writing until the file is gone. They find that out with requireSameFile().
+    if (sqlite3_exec(connection, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr) == SQLITE_BUSY) return;
+    requireNone(project, "PRAGMA schema_version");
     std::error_code ignored;
     std::filesystem::remove(openFileOf(project), ignored);
-} catch (const std::runtime_error&) {  // another creator's file
+} catch (const std::runtime_error&) {  // another creator's project
 }
 
 // The project to write to; null for an unknown handle.

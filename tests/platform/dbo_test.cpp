@@ -131,14 +131,16 @@ TEST_F(Project, keepsElementsAndTasksInOrderAndByteForByte) {
     EXPECT_EQ(contentOf(again), "+5 -0 +1 +7 +2147483647 [b|4|" + odd + "][" + odd + "|-1|" + odd + "]");
 }
 
-TEST_F(Project, inUtf16ShowsItsTexts) {
+TEST_F(Project, fromElsewhereShowsItsTextsAndRunsNoTrigger) {
     execute(file("wide"), R"(PRAGMA encoding = 'UTF-16'; PRAGMA application_id = 1414092368;
         PRAGMA user_version = 1; CREATE TABLE elements(kind INTEGER PRIMARY KEY, count);
         INSERT INTO elements VALUES (0, 1), (1, 1), (2, 1), (3, 1), (4, 1);
         CREATE TABLE tasks(id INTEGER PRIMARY KEY, name UNIQUE, program_type, settings);
-        INSERT INTO tasks VALUES (1, '橋', 3, 'CgAA'))");
+        INSERT INTO tasks VALUES (1, '橋', 3, 'CgAA');
+        CREATE TRIGGER added AFTER UPDATE ON elements BEGIN DELETE FROM tasks; END)");
     closeProject(std::exchange(database, openProject(file("wide"))));
-    EXPECT_EQ(contentOf(database), "+1 +1 +1 +1 +1 [橋|3|CgAA]");
+    addElements(database, ElementKind::Quads, 1);
+    EXPECT_EQ(contentOf(database), "+2 +1 +1 +1 +1 [橋|3|CgAA]");
 }
 
 TEST_F(Project, changesAllTasksOrNone) {

@@ -2,6 +2,8 @@
 
 #include "echo/src/internal_data.h"
 #include "echo/src/levels.h"
+#include "properties/definitions/validators.h"
+#include "properties/qt/src/editors.h"
 #include "properties/qt/src/qt_inspector_widget.h"
 
 #include <QByteArray>
@@ -56,8 +58,15 @@ properties::InspectorHost host(
 
 QWidget* makeInspector(const std::shared_ptr<InternalInterface>& table, QWidget* parent) {
     offerLevels(*table->properties);
-    auto* inspector = new properties::QtInspectorWidget(
-        parent, table->properties, table->selection, table->model, host(table, table->properties));
+    static const auto editors = std::make_shared<const properties::DefaultEditorFactory>();
+    static const auto validators = std::make_shared<const properties::DefaultValidatorFactory>();
+    auto* inspector = new properties::QtInspectorWidget(parent,
+        table->properties,
+        table->selection,
+        table->model,
+        editors,
+        validators,
+        host(table, table->properties));
     inspector->setPropertyFilterFunction([keys = table->visibleKeys](const std::string& key) {
         return std::find(keys.begin(), keys.end(), key) != keys.end();
     });

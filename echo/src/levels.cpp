@@ -1,5 +1,6 @@
 #include "echo/src/levels.h"
 
+#include "properties/definitions/paths.h"
 #include "tiv/echo/echo_data.h"
 
 #include <memory>
@@ -78,10 +79,10 @@ void offerLevels(properties::Properties& properties) {
         const auto entries =
             std::make_shared<const std::vector<properties::NamedValue>>(offeredLevels(property->key));
         properties::Configuration& configuration = property->configuration;
-        configuration.set("editor.entries", entries);
-        configuration.set("validator.entries", entries);
-        configuration.set("editor.names", names);
-        configuration.set("editor.explanations", explanations);
+        configuration.set(properties::path::editorEntries, entries);
+        configuration.set(properties::path::validatorEntries, entries);
+        configuration.set(properties::path::editorNames, names);
+        configuration.set(properties::path::editorExplanations, explanations);
     }
 }
 

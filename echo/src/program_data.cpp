@@ -1,6 +1,7 @@
 #include "echo/src/program_data.h"
 
 #include "echo/schema/output_type.h"
+#include "properties/definitions/paths.h"
 #include "properties/qt/inc/nextgen/from_bond.h"
 #include "tiv/smartassert/smart_assert.h"
 
@@ -49,7 +50,8 @@ ProgramData::ProgramData(EchoData::ProgrammTypes type, int database, const Progr
 
     for (const bond::Row& field : optionFields(*served_).rows) {
         const OptionNumber& option = served_->options[field.id];
-        properties->list[field.id]->configuration.set("inspector.keyword", keywords(option.number));
+        properties->list[field.id]->configuration.set(
+            properties::path::inspectorKeyword, keywords(option.number));
         showOption(option.shownAs ? option.shownAs : std::string("prop.") + field.name, option.number);
     }
 }

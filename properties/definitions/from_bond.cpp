@@ -1,4 +1,5 @@
 #include "properties/qt/inc/nextgen/from_bond.h"
+#include "properties/definitions/paths.h"
 
 #include <boost/lexical_cast.hpp>
 
@@ -42,21 +43,21 @@ bool equalNumbers(const QVariant& a, const QVariant& b) {
 void configure(Configuration& configuration, const bond::Row& field,
     std::pair<const bond::EnumSchema*, NamedValues>& known) {
     if (const auto digits = precision(field)) {
-        configuration.set("validator.precision", *digits);
-        configuration.set("editor.validator.precision", *digits);
+        configuration.set(path::validatorPrecision, *digits);
+        configuration.set(path::editorValidatorPrecision, *digits);
     }
     if (field.enumeration) {
         if (known.first != field.enumeration) known = {field.enumeration, enumerators(*field.enumeration)};
         const QString kind = QStringLiteral("named_value_list");
-        for (const char* path : {"editor.kind", "validator.kind", "editor.validator.kind"})
-            configuration.set(path, kind);
-        for (const char* path : {"validator.entries", "editor.entries"})
-            configuration.set(path, known.second);
-        for (const char* path : {"validator.is_equal", "editor.is_equal"})
-            configuration.set(path, &equalNumbers);
+        for (const auto at : {path::editorKind, path::validatorKind, path::editorValidatorKind})
+            configuration.set(at, kind);
+        for (const auto at : {path::validatorEntries, path::editorEntries})
+            configuration.set(at, known.second);
+        for (const auto at : {path::validatorIsEqual, path::editorIsEqual})
+            configuration.set(at, &equalNumbers);
     }
     if (const char* editor = field.attribute("Editor"))
-        configuration.set("editor.kind", QString::fromUtf8(editor));
+        configuration.set(path::editorKind, QString::fromUtf8(editor));
 }
 
 class Conversion {

@@ -1,5 +1,7 @@
 #include "properties/definitions/validators.h"
 
+#include "properties/definitions/paths.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -7,8 +9,8 @@ namespace tiv::properties {
 namespace {
 
 DefaultValidatorFactory::Validator namedValues(const Branch& validator) {
-    const auto* entries = validator.get<NamedValues>("entries");
-    const auto* isEqual = validator.get<IsEqual>("is_equal");
+    const auto* entries = validator.get<NamedValues>(path::entries);
+    const auto* isEqual = validator.get<IsEqual>(path::isEqual);
     if (!entries) return [](const QVariant&) { return false; };
     return [list = *entries, equal = isEqual ? *isEqual : nullptr](const QVariant& value) {
         return std::any_of(list->begin(), list->end(), [&](const NamedValue& entry) {
@@ -32,11 +34,11 @@ DefaultValidatorFactory::DefaultValidatorFactory() {
 }
 
 DefaultValidatorFactory::Validator DefaultValidatorFactory::create(const Property& property) const {
-    const Branch validator = property.configuration.branch("validator");
-    const auto* kind = validator.get<QString>("kind");
+    const Branch validator = property.configuration.branch(path::validator);
+    const auto* kind = validator.get<QString>(path::kind);
     const auto maker = kind ? makers_.find(*kind) : makers_.end();
     if (maker != makers_.end()) return maker->second(validator);
-    if (const auto* places = validator.get<int>("precision")) return decimalPlaces(*places);
+    if (const auto* places = validator.get<int>(path::precision)) return decimalPlaces(*places);
     return [](const QVariant&) { return true; };
 }
 

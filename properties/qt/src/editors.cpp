@@ -1,5 +1,7 @@
 #include "properties/qt/src/editors.h"
 
+#include "properties/definitions/paths.h"
+
 #include <QApplication>
 #include <QCheckBox>
 #include <QEvent>
@@ -21,10 +23,18 @@ bool isHeldReturn(const QEvent& keyPress) {
     return key.isAutoRepeat() && (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter);
 }
 
+QString explanation(const Property& property, const QVariant& value) {
+    const auto* texts = property.configuration.get<NamedValues>(path::editorExplanations);
+    if (!texts) return {};
+    for (const NamedValue& text : **texts)
+        if (text.value == value) return text.text;
+    return {};
+}
+
 }  // namespace
 
 NamedValueEditor::NamedValueEditor(QWidget* parent, std::shared_ptr<const Property> property)
-    : QFrame(parent, Qt::Popup), list_(new QListWidget(this)), property_(std::move(property)) {
+    : PopupEditor(parent), list_(new QListWidget(this)), property_(std::move(property)) {
     setAttribute(Qt::WA_WindowPropagation);  // colours and font of the inspector
     setLayoutDirection(parent->layoutDirection());
     auto* layout = new QVBoxLayout(this);
@@ -46,7 +56,7 @@ NamedValueEditor::NamedValueEditor(QWidget* parent, std::shared_ptr<const Proper
 
 void NamedValueEditor::setValue(const QVariant& value) {
     value_ = value;
-    const auto* isEqual = property_->configuration.get<IsEqual>("editor.is_equal");
+    const auto* isEqual = property_->configuration.get<IsEqual>(path::editorIsEqual);
     int row = list_->count() - 1;
     for (; row >= 0; --row) {
         const QVariant offered = list_->item(row)->data(Qt::UserRole);
@@ -56,13 +66,17 @@ void NamedValueEditor::setValue(const QVariant& value) {
 }
 
 void NamedValueEditor::fill() {
-    const auto* entries = property_->configuration.get<NamedValues>("editor.entries");
+    const auto* entries = property_->configuration.get<NamedValues>(path::editorEntries);
     if (!entries) return;
     const int marked = list_->currentRow();
     list_->clear();
-    for (const NamedValue& entry : **entries)
-        (new QListWidgetItem(entry.text, list_))->setData(Qt::UserRole, entry.value);
-    static_cast<QAbstractItemView*>(list_)->setCurrentIndex({});  // else the focus makes it the first entry
+    for (const NamedValue& entry : **entries) {
+        auto* item = new QListWidgetItem(entry.text, list_);
+        item->setData(Qt::UserRole, entry.value);
+        item->setToolTip(explanation(*property_, entry.value));
+    }
+    static_cast<QAbstractItemView*>(list_)->setCurrentIndex(
+        {});  // otherwise QListView selects the first entry on focus-in
     list_->setCurrentRow(marked);
 }
 
@@ -71,7 +85,7 @@ void NamedValueEditor::choose(QListWidgetItem* entry) {
     value_ = entry->data(Qt::UserRole);
     isChosen_ = true;
     hide();
-    emit chosen();
+    emit chosen(value_);
 }
 
 // Below the cell, or above it where there is more room.
@@ -97,7 +111,8 @@ void NamedValueEditor::placeAt(const QRect& cell) {
         height);
 }
 
-// The list goes with its inspector, and a key that is held down since it opened the list confirms nothing.
+// Closes the list when its inspector is hidden or disabled, and ignores the auto-repeat of the key that
+// opened it.
 bool NamedValueEditor::eventFilter(QObject* watched, QEvent* event) {
     if (watched == list_) return event->type() == QEvent::KeyPress && isHeldReturn(*event);
     if (event->type() == QEvent::Hide || event->type() == QEvent::EnabledChange) hide();
@@ -113,8 +128,8 @@ void NamedValueEditor::keyPressEvent(QKeyEvent* event) {
     }
 }
 
-// A click outside closes the list; where the platform says so, it then does there what it does, but not in
-// the list's own cell, which would open it again. The second click of a double click closes nothing.
+// A click outside closes the list. Platforms that replay the click deliver it to the widget below, except for
+// the list's own cell, where it would reopen the list. The second click of a double click closes nothing.
 void NamedValueEditor::mousePressEvent(QMouseEvent* event) {
     const bool inCell = cell_.contains(event->globalPos());
     if (inCell && shown_.elapsed() < QApplication::doubleClickInterval()) return;
@@ -146,7 +161,7 @@ DefaultEditorFactory::DefaultEditorFactory() {
 
 QWidget* DefaultEditorFactory::create(
     QWidget* parent, const std::shared_ptr<const Property>& property) const {
-    const auto* kind = property->configuration.get<QString>("editor.kind");
+    const auto* kind = property->configuration.get<QString>(path::editorKind);
     auto maker = kind ? makers_.find(*kind) : makers_.end();
     if (maker == makers_.end()) {
         const bool truth = property->field->type == bond::Type::Bool;

@@ -21,9 +21,22 @@ class QListWidgetItem;
 
 namespace tiv::properties {
 
-// A list of the entries of a named value list that opens at its cell. Carries the value itself, so one that
-// is not in the list stays what it is until another is chosen.
-class NamedValueEditor : public QFrame {
+// An editor with a window of its own that opens at its cell. It is closed when one of the signals comes.
+class PopupEditor : public QFrame {
+    Q_OBJECT
+ public:
+    explicit PopupEditor(QWidget* parent) : QFrame(parent, Qt::Popup) {}
+    // `cell` is in global coordinates.
+    virtual void placeAt(const QRect& cell) = 0;
+
+ signals:
+    void chosen(const QVariant& value);
+    void cancelled();
+};
+
+// A list of the entries of a named value list. Holds the value itself, so a value that is not in the list
+// stays until another one is chosen.
+class NamedValueEditor : public PopupEditor {
     Q_OBJECT
     Q_PROPERTY(QVariant value READ value WRITE setValue USER true)
  public:
@@ -31,12 +44,7 @@ class NamedValueEditor : public QFrame {
 
     QVariant value() const { return value_; }
     void setValue(const QVariant& value);
-    // Where the cell is on the screen.
-    void placeAt(const QRect& cell);
-
- signals:
-    void chosen();     // an entry was picked, and the list is closed; value() is its value
-    void cancelled();  // the list was closed without a choice
+    void placeAt(const QRect& cell) override;
 
  protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

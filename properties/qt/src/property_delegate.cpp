@@ -1,80 +1,64 @@
 #include "properties/qt/src/property_delegate.h"
 
+#include "properties/definitions/paths.h"
 #include "properties/qt/src/property_view.h"
 #include "properties/qt/src/record_item_model.h"
 
-#include <QApplication>
 #include <QMetaProperty>
 #include <QPainter>
-#include <QPainterPath>
-#include <QTextOption>
+#include <QStyle>
+#include <QStyleOptionToolButton>
 
-#include <algorithm>
 #include <utility>
 
 namespace tiv::properties {
 namespace {
 
-QColor textColour(const QStyleOptionViewItem& cell) {
-    const bool selected = cell.state & QStyle::State_Selected;
-    return cell.palette.color(selected ? QPalette::HighlightedText : QPalette::Text);
-}
-
-// An arrow that turns back, in the text's colour: the sign of a changed value, and its reset button.
-void paintResetSign(QPainter* painter, const QRectF& cell, const QColor& colour) {
-    const qreal side = 0.55 * std::min(cell.width(), cell.height());
-    QRectF circle(0, 0, side, side);
-    circle.moveCenter(cell.center());
-    painter->save();
-    painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(QPen(colour, std::max(1.0, side / 8), Qt::SolidLine, Qt::FlatCap));
-    painter->drawArc(circle, -150 * 16, 290 * 16);
-    const QPointF tip(circle.left() + 0.12 * side, circle.top() + 0.04 * side);
-    QPainterPath head(tip);
-    head.lineTo(tip + QPointF(0.0, 0.48 * side));
-    head.lineTo(tip + QPointF(0.48 * side, 0.40 * side));
-    painter->fillPath(head, colour);
-    painter->restore();
+bool offersList(const QModelIndex& cell) {
+    if (cell.column() != RecordItemModel::ValueColumn || !(cell.flags() & Qt::ItemIsEditable)) return false;
+    const auto property = static_cast<const RecordItemModel*>(cell.model())->property(cell);
+    return property->configuration.get<NamedValues>(path::editorEntries);
 }
 
 }  // namespace
 
-PropertyDelegate::PropertyDelegate(PropertyView* view) : QStyledItemDelegate(view), view_(view) {}
+PropertyDelegate::PropertyDelegate(PropertyView* view, std::shared_ptr<const DefaultEditorFactory> editors)
+    : QStyledItemDelegate(view), view_(view), editors_(std::move(editors)) {}
 
 QWidget* PropertyDelegate::createEditor(
     QWidget* parent, const QStyleOptionViewItem& /*option*/, const QModelIndex& index) const {
     const auto property = static_cast<const RecordItemModel*>(index.model())->property(index);
     if (!property) return nullptr;
-    QWidget* editor = factory_.create(parent, property);
-    if (auto* list = qobject_cast<NamedValueEditor*>(editor)) connectList(list, index);
+    QWidget* editor = editors_->create(parent, property);
+    if (auto* popup = qobject_cast<PopupEditor*>(editor)) connectPopup(popup, index);
     return editor;
 }
 
-// A list ends the editing itself, and the focus goes back to the table. Its choice is told last of all: an
-// observer of the record may destroy the inspector, which the list, in the midst of a click, must outlive.
-void PropertyDelegate::connectList(NamedValueEditor* list, const QPersistentModelIndex& index) const {
+// A popup ends the editing itself, and the focus goes back to the table. `entered` comes last: an observer of
+// the record may destroy the inspector, and the popup, which is still handling a click, must outlive it.
+void PropertyDelegate::connectPopup(PopupEditor* popup, const QPersistentModelIndex& index) const {
     auto* self = const_cast<PropertyDelegate*>(this);
-    const auto end = [self, list] {
-        emit self->closeEditor(list);
+    const auto end = [self, popup] {
+        emit self->closeEditor(popup);
         self->view_->setFocus();
     };
-    connect(list, &NamedValueEditor::cancelled, self, end);
-    connect(list, &NamedValueEditor::chosen, self, [self, list, index, end] {
+    connect(popup, &PopupEditor::cancelled, self, end);
+    connect(popup, &PopupEditor::chosen, self, [self, popup, index, end](const QVariant& value) {
         end();
-        list->setParent(nullptr);
-        emit self->entered(index, list->value());
+        popup->setParent(nullptr);
+        emit self->entered(index, value);
     });
 }
 
-// An editor without the focus is done, but for a list, which says itself when it is.
+// The base class closes editors that lose the focus; a popup closes itself.
 bool PropertyDelegate::eventFilter(QObject* watched, QEvent* event) {
-    return !qobject_cast<NamedValueEditor*>(watched) && QStyledItemDelegate::eventFilter(watched, event);
+    return !qobject_cast<PopupEditor*>(watched) && QStyledItemDelegate::eventFilter(watched, event);
 }
 
 void PropertyDelegate::updateEditorGeometry(
     QWidget* editor, const QStyleOptionViewItem& option, const QModelIndex& index) const {
-    if (auto* list = qobject_cast<NamedValueEditor*>(editor))
-        list->placeAt({view_->viewport()->mapToGlobal(option.rect.topLeft()), option.rect.size()});
+    if (auto* popup = qobject_cast<PopupEditor*>(editor))
+        popup->placeAt({view_->viewport()->mapToGlobal(option.rect.topLeft()), option.rect.size()});
     else
         QStyledItemDelegate::updateEditorGeometry(editor, option, index);
 }
@@ -95,47 +79,44 @@ void PropertyDelegate::setModelData(
         Qt::QueuedConnection);
 }
 
+void PropertyDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {
+    QStyledItemDelegate::initStyleOption(option, index);
+    if (index.column() == RecordItemModel::LabelColumn) option->text = view_->fitted(index);
+    if (index.column() == RecordItemModel::ValueColumn) view_->makeRoomForArrow(*option);
+    if (index.column() != RecordItemModel::ResetColumn || !index.data(RecordItemModel::ChangedRole).toBool())
+        return;
+    // A letter, so that the style gives it the colour of the text, whatever that is.
+    option->text = PropertyView::resetSign();
+    option->features |= QStyleOptionViewItem::HasDisplay;
+    option->displayAlignment = Qt::AlignCenter;
+    const bool editable = index.siblingAtColumn(RecordItemModel::ValueColumn).flags() & Qt::ItemIsEditable;
+    if (!editable) option->state &= ~QStyle::State_Enabled;
+}
+
 void PropertyDelegate::paint(
     QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const {
     if (!view_->paints(option.rect)) return;
-    QStyleOptionViewItem cell = option;
-    initStyleOption(&cell, index);
-    const int width = cell.rect.width();
-    const bool wraps = view_->widthOf(cell.text) > width;
-    const bool isKept = !wraps || (view_->wordWrap() && view_->widestWord(cell.text) <= width);
-    const QString text = isKept ? std::exchange(cell.text, QString()) : QString();
-    view_->style()->drawControl(QStyle::CE_ItemViewItem, &cell, painter, view_);
-    if (!text.isEmpty()) paintText(painter, cell, text, wraps);
-    if (index.column() != RecordItemModel::ResetColumn || !index.data(RecordItemModel::ChangedRole).toBool())
-        return;
-    const bool editable = index.siblingAtColumn(RecordItemModel::ValueColumn).flags() & Qt::ItemIsEditable;
-    if (!editable) cell.palette.setCurrentColorGroup(QPalette::Disabled);
-    paintResetSign(painter, cell.rect, textColour(cell));
+    QStyledItemDelegate::paint(painter, option, index);
+    const bool isPointedAt = option.state & QStyle::State_MouseOver;
+    if ((isPointedAt || index.row() == view_->currentIndex().row()) && offersList(index))
+        paintArrow(painter, option, index);
 }
 
-// What costs in a cell is to shape its text, which a style does three times over. Here a shape is kept:
-// an inspector has few texts, and most of them in many rows. A style does what has to be cut.
-void PropertyDelegate::paintText(
-    QPainter* painter, const QStyleOptionViewItem& cell, const QString& text, bool wraps) const {
-    const int margin = view_->style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1;  // as in styles
-    const QRect room = cell.rect.adjusted(margin, 0, -margin, 0);
-    const qreal width = wraps ? room.width() : -1;
-    QStaticText& shape = shapes_[{text, cell.font}];
-    if (shape.text().isEmpty() || shape.textOption().textDirection() != cell.direction ||
-        shape.textWidth() != width) {
-        QTextOption option(wraps ? QStyle::visualAlignment(cell.direction, Qt::AlignLeft) : Qt::AlignLeft);
-        option.setTextDirection(cell.direction);
-        shape.setTextFormat(Qt::PlainText);
-        shape.setTextOption(option);
-        shape.setTextWidth(width);
-        shape.setText(text);
-        shape.prepare({}, cell.font);
-    }
-    const QRect lines =
-        QStyle::alignedRect(cell.direction, cell.displayAlignment, shape.size().toSize(), room);
-    painter->setFont(cell.font);
-    painter->setPen(textColour(cell));
-    painter->drawStaticText(lines.topLeft(), shape);
+// As a button: its colours go together, whatever the style gives to a selected row.
+void PropertyDelegate::paintArrow(
+    QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const {
+    QStyleOptionViewItem cell = option;
+    initStyleOption(&cell, index);
+    const QStyle& style = *view_->style();
+    const QRect room = style.subElementRect(QStyle::SE_ItemViewItemDecoration, &cell, view_);
+    QStyleOptionToolButton button;
+    button.initFrom(view_);
+    button.rect = QStyle::alignedRect(cell.direction, Qt::AlignCenter, cell.decorationSize, room);
+    button.state = QStyle::State_Enabled | QStyle::State_Raised;
+    button.features = QStyleOptionToolButton::Arrow;
+    button.arrowType = Qt::DownArrow;
+    button.subControls = QStyle::SC_ToolButton;
+    style.drawComplexControl(QStyle::CC_ToolButton, &button, painter, view_);
 }
 
 QSize PropertyDelegate::sizeHint(const QStyleOptionViewItem& /*option*/, const QModelIndex& index) const {

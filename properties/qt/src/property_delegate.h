@@ -1,14 +1,12 @@
-// Paints the cells of an inspector and makes their editors.
+// Draws the cells of an inspector by the style, and makes their editors.
 #pragma once
 
 #include "properties/qt/src/editors.h"
 
-#include <QFont>
-#include <QHash>
-#include <QPair>
 #include <QPersistentModelIndex>
-#include <QStaticText>
 #include <QStyledItemDelegate>
+
+#include <memory>
 
 namespace tiv::properties {
 
@@ -17,35 +15,34 @@ class PropertyView;
 class PropertyDelegate : public QStyledItemDelegate {
     Q_OBJECT
  public:
-    explicit PropertyDelegate(PropertyView* view);
+    PropertyDelegate(PropertyView* view, std::shared_ptr<const DefaultEditorFactory> editors);
 
     QWidget* createEditor(
         QWidget* parent, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
     void updateEditorGeometry(
         QWidget* editor, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
-    // Hands it its label, too, for screen readers.
+    // Also sets the accessible name.
     void setEditorData(QWidget* editor, const QModelIndex& index) const override;
-    // Has `entered` said with the next event.
+    // Emits `entered` from the event loop, not immediately.
     void setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override;
     void paint(
         QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 
  signals:
-    // The record is to be written, which may destroy the view and this.
+    // Asks for the record to be written. A slot may destroy the view and this delegate.
     void entered(const QModelIndex& index, const QVariant& value) const;
 
  protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
 
  private:
-    void connectList(NamedValueEditor* list, const QPersistentModelIndex& index) const;
-    void paintText(
-        QPainter* painter, const QStyleOptionViewItem& cell, const QString& text, bool wraps) const;
+    void connectPopup(PopupEditor* popup, const QPersistentModelIndex& index) const;
+    void paintArrow(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const;
 
     PropertyView* view_;
-    mutable QHash<QPair<QString, QFont>, QStaticText> shapes_;
-    DefaultEditorFactory factory_;
+    std::shared_ptr<const DefaultEditorFactory> editors_;
 };
 
 }  // namespace tiv::properties

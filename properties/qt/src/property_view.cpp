@@ -1,5 +1,6 @@
 #include "properties/qt/src/property_view.h"
 
+#include "properties/definitions/paths.h"
 #include "properties/qt/src/record_item_model.h"
 
 #include <QApplication>
@@ -10,8 +11,14 @@
 #include <QKeyEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+#include <QSet>
+#include <QTextBoundaryFinder>
 
 #include <algorithm>
+#include <cmath>
+#include <utility>
 
 namespace tiv::properties {
 namespace {
@@ -19,6 +26,7 @@ namespace {
 constexpr int labelColumn = RecordItemModel::LabelColumn;
 constexpr int valueColumn = RecordItemModel::ValueColumn;
 constexpr int resetColumn = RecordItemModel::ResetColumn;
+constexpr int fewestLines = 3, mostLines = 20;  // of a table that a layout is free to size
 
 bool opensEditor(const QKeyEvent& event) {
     switch (event.key()) {
@@ -35,6 +43,16 @@ bool opensEditor(const QKeyEvent& event) {
     }
 }
 
+// Adds invisible places to break between the letters of the word.
+QString breakable(const QString& word) {
+    QString result = word;
+    QTextBoundaryFinder letters(QTextBoundaryFinder::Grapheme, word);
+    letters.toEnd();
+    while (letters.toPreviousBoundary() > 0)
+        result.insert(letters.position(), QChar(0x200B));  // zero-width space
+    return result;
+}
+
 }  // namespace
 
 PropertyView::PropertyView(QWidget* parent) : QTreeView(parent) {
@@ -46,11 +64,25 @@ PropertyView::PropertyView(QWidget* parent) : QTreeView(parent) {
     setSelectionMode(ExtendedSelection);
     setSelectionBehavior(SelectRows);
     setTabKeyNavigation(false);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setTextElideMode(Qt::ElideRight);
     header()->setSectionsMovable(false);
     header()->setStretchLastSection(false);
     header()->setMinimumSectionSize(1);
+    viewport()->setAttribute(Qt::WA_Hover);
+    connect(this, &QTreeView::clicked, this, &PropertyView::onClicked);
+    connect(header(), &QHeaderView::sectionResized, this, &PropertyView::onSectionResized);
+    connect(header(), &QHeaderView::sectionHandleDoubleClicked, this, [this] {
+        labelShare_.reset();
+        fitColumns();
+    });
+}
+
+// A click on a label only selects its row.
+void PropertyView::onClicked(const QModelIndex& cell) {
+    if (QApplication::keyboardModifiers() & (Qt::ControlModifier | Qt::ShiftModifier))
+        return;  // selects rows
+    if (cell.column() == valueColumn) editRow(cell);
+    if (cell.column() == resetColumn) emit resetRequested(cell);
 }
 
 void PropertyView::setPlaceholder(const QString& text) {
@@ -64,97 +96,150 @@ bool PropertyView::hasVisibleRows() const {
     return false;
 }
 
-// As if everything were bold, so that a change of a value moves nothing. Kept: most levels are offered in
-// every row, and shaping a text is what costs.
-int PropertyView::widthOf(const QString& text) const {
-    const auto known = widths_.constFind(text);
-    if (known != widths_.constEnd()) return *known;
-    return *widths_.insert(text, QFontMetrics(boldFont()).horizontalAdvance(text) + margin());
+void PropertyView::setModel(QAbstractItemModel* model) {
+    QTreeView::setModel(model);
+    header()->setSectionResizeMode(valueColumn, QHeaderView::Fixed);  // one divider, behind the labels
+    header()->setSectionResizeMode(resetColumn, QHeaderView::Fixed);
 }
 
-QFont PropertyView::boldFont() const {
-    QFont bold = font();
-    bold.setBold(true);
-    return bold;
+// In bold, so that marking a value as changed never moves the columns.
+QStyleOptionViewItem PropertyView::boldOption(int column) const {
+    QStyleOptionViewItem option;
+    option.initFrom(this);
+    option.font.setBold(true);
+    option.fontMetrics = QFontMetrics(option.font);
+    option.features = QStyleOptionViewItem::HasDisplay;
+    if (column == valueColumn) makeRoomForArrow(option);
+    return option;
 }
 
-int PropertyView::margin() const {
-    return 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1) + 2;
+void PropertyView::makeRoomForArrow(QStyleOptionViewItem& option) const {
+    option.features |= QStyleOptionViewItem::HasDecoration;
+    option.decorationPosition = QStyleOptionViewItem::Right;
+    option.decorationSize = {fontMetrics().height(), fontMetrics().height()};
 }
 
-void PropertyView::measure() {
+QSize PropertyView::sizeOf(QStyleOptionViewItem& option, const QString& text) const {
+    option.text = text;
+    return style()->sizeFromContents(QStyle::CT_ItemViewItem, &option, {}, this);
+}
+
+// The style is asked once per column what it adds to a text; the widths of the texts are Qt's.
+void PropertyView::measure() const {
+    if (isMeasured_ || !model()) return;
+    isMeasured_ = true;
     const auto* rows = static_cast<const RecordItemModel*>(model());
-    const auto header = [&](int column) {
-        return rows->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+    const QFontMetrics metrics = boldOption(labelColumn).fontMetrics;
+    QSet<QString> seen;  // most levels are offered in every row
+    const auto add = [&](Widths& widths, const QString& text) {
+        if (seen.contains(text)) return;
+        seen.insert(text);
+        widths.line = std::max(widths.line, metrics.horizontalAdvance(text));
+        for (const QString& word : text.split(QLatin1Char(' ')))
+            widths.word = std::max(widths.word, metrics.horizontalAdvance(word));
     };
-    labelWidth_ = widthOf(header(labelColumn));
-    valueWidth_ = widthOf(header(valueColumn));
+    labels_ = values_ = {};
     for (int row = 0; row < rows->rowCount(); ++row) {
         const QModelIndex label = rows->index(row, labelColumn);
-        labelWidth_ = std::max(labelWidth_, widthOf(label.data().toString()));
+        add(labels_, label.data().toString());
         const auto property = rows->property(label);
         if (!property) continue;
         const int characters = property->columnWidth ? QString::fromUtf8(property->columnWidth).toInt() : 0;
-        valueWidth_ = std::max(valueWidth_, characters * fontMetrics().averageCharWidth());
-        const auto* entries = property->configuration.get<NamedValues>("editor.entries");
+        values_.line = std::max(values_.line, characters * metrics.averageCharWidth());
+        add(values_, label.siblingAtColumn(valueColumn).data().toString());
+        const auto* entries = property->configuration.get<NamedValues>(path::editorEntries);
         if (!entries) continue;
-        for (const NamedValue& entry : **entries) valueWidth_ = std::max(valueWidth_, widthOf(entry.text));
+        for (const NamedValue& entry : **entries) add(values_, entry.text);
     }
-}
-
-int PropertyView::widestWord(const QString& text) const {
-    int width = 0;
-    for (const QString& word : text.split(QLatin1Char(' '))) width = std::max(width, widthOf(word));
-    return width;
-}
-
-// Of the widest word of a label.
-int PropertyView::wordWidth() const {
-    int width = 0;
-    for (int row = 0; row < model()->rowCount(); ++row)
-        width = std::max(width, widestWord(model()->index(row, labelColumn).data().toString()));
-    return width;
+    const QString letter(QLatin1Char('x'));
+    for (const auto& [column, widths] :
+        {std::pair(labelColumn, &labels_), std::pair(valueColumn, &values_)}) {
+        QStyleOptionViewItem option = boldOption(column);
+        const QSize size = sizeOf(option, letter);
+        widths->margins = size.width() - metrics.horizontalAdvance(letter) + 1;  // widths are rounded
+        const int heading = header()->sectionSizeHint(column);
+        widths->word = std::max(widths->word + widths->margins, heading);
+        widths->line = std::max(widths->line + widths->margins, heading);
+        lineHeight_ = std::max(size.height(), fontMetrics().height() * 3 / 2);  // room for an editor
+    }
+    leastLabel_ = std::min(labels_.word, 8 * metrics.averageCharWidth());
+    QStyleOptionViewItem sign = boldOption(resetColumn);
+    signWidth_ = std::max(sizeOf(sign, resetSign()).width(), lineHeight_);
 }
 
 int PropertyView::heightOf(const QModelIndex& cell) const {
-    const int line = fontMetrics().height() * 3 / 2;  // room for an editor
-    if (cell.column() == resetColumn) return line;
-    const QString text = cell.data().toString();
-    const int width = columnWidth(cell.column());
-    return widthOf(text) <= width ? line : std::max(line, wrappedHeight(text, width));
+    measure();
+    if (!wordWrap() || cell.column() == resetColumn) return lineHeight_;
+    QStyleOptionViewItem option = boldOption(cell.column());
+    option.features |= QStyleOptionViewItem::WrapText;
+    option.rect.setWidth(columnWidth(cell.column()));
+    return std::max(lineHeight_, sizeOf(option, fitted(cell)).height());
 }
 
-int PropertyView::wrappedHeight(const QString& text, int width) const {
-    const auto known = wrappedHeights_.constFind({text, width});
-    if (known != wrappedHeights_.constEnd()) return *known;
-    const QRect room(0, 0, width - margin(), 10000);
-    const int wrapped = QFontMetrics(boldFont()).boundingRect(room, Qt::TextWordWrap, text).height();
-    return *wrappedHeights_.insert({text, width}, wrapped + fontMetrics().height() / 2);
+QString PropertyView::fitted(const QModelIndex& cell) const {
+    const QString text = cell.data().toString();
+    if (cell.column() != labelColumn || !breaksWords_) return text;
+    const QFontMetrics metrics = boldOption(labelColumn).fontMetrics;
+    const int room = columnWidth(labelColumn) - labels_.margins;
+    QStringList words = text.split(QLatin1Char(' '));
+    for (QString& word : words)
+        if (metrics.horizontalAdvance(word) > room) word = breakable(word);
+    return words.join(QLatin1Char(' '));
 }
 
 void PropertyView::measureAgain() {
-    labelWidth_ = -1;
-    widths_.clear();
+    isMeasured_ = false;
+    updateGeometry();
     fitColumns();
 }
 
-// The values get what they need and the labels the rest, but no word is ever cut; what does not fit into
-// one line is wrapped.
+// The labels get what they need and the values the rest. With less room labels are wrapped, then values, and
+// at last the words of the labels are broken. A share that the user gave to the labels is kept in these limits.
 void PropertyView::fitColumns() {
-    if (!isVisible() || !model()) return;
-    if (labelWidth_ < 0) measure();
-    wrappedHeights_.clear();
-    const int reset = fontMetrics().height() * 3 / 2;
-    const int width = viewport()->width() - reset;
-    const int left = width - valueWidth_;
-    const int label = left >= labelWidth_ ? labelWidth_ : std::max(left, wordWidth());
-    const bool wraps = label < labelWidth_ || width - label < valueWidth_;
+    if (isFitting_ || !isVisible() || !model()) return;
+    const QScopedValueRollback<bool> fitting(isFitting_, true);
+    measure();
+    const int room = viewport()->width() - signWidth_;
+    const int most = std::max(room - values_.word, leastLabel_);
+    const int least = std::min(labels_.word, most);
+    const int wanted = labelShare_ ? static_cast<int>(std::lround(*labelShare_ * room))
+                                   : std::min(labels_.line, room - values_.line);
+    const int label = std::clamp(wanted, least, most);
+    const int value = std::max(room - label, values_.word);
+    const bool wraps = label < labels_.line || value < values_.line;
+    breaksWords_ = label < labels_.word;
     header()->resizeSection(labelColumn, label);
-    header()->resizeSection(valueColumn, std::max(1, width - label));
-    header()->resizeSection(resetColumn, reset);
+    header()->resizeSection(valueColumn, value);
+    header()->resizeSection(resetColumn, signWidth_);
     setUniformRowHeights(!wraps);
     setWordWrap(wraps);
     scheduleDelayedItemsLayout();  // the heights follow from the widths
+}
+
+void PropertyView::onSectionResized(int section, int /*before*/, int width) {
+    if (isFitting_ || section != labelColumn || !isMeasured_) return;
+    labelShare_ = static_cast<double>(width) / std::max(1, viewport()->width() - signWidth_);
+    fitColumns();
+}
+
+// Every text in one line.
+QSize PropertyView::sizeHint() const {
+    measure();
+    const int rows = model() ? model()->rowCount() : 0;
+    const int bar = rows > mostLines ? verticalScrollBar()->sizeHint().width() : 0;
+    const int columns = labels_.line + values_.line + signWidth_;
+    return sizeFor(std::clamp(rows, fewestLines, mostLines), columns + bar);
+}
+
+QSize PropertyView::minimumSizeHint() const {
+    measure();
+    const int bar = verticalScrollBar()->sizeHint().width();
+    return sizeFor(fewestLines, leastLabel_ + values_.word + signWidth_ + bar);
+}
+
+QSize PropertyView::sizeFor(int lines, int width) const {
+    const int frame = 2 * frameWidth();
+    return {width + frame, header()->sizeHint().height() + lines * lineHeight_ + frame};
 }
 
 void PropertyView::editRow(const QModelIndex& index) {
@@ -171,14 +256,17 @@ void PropertyView::leaveHiddenRow() {
     if (row < model()->rowCount()) setCurrentIndex(model()->index(row, valueColumn));
 }
 
+// The commands act on the selected rows. A click makes its own selection.
+void PropertyView::focusInEvent(QFocusEvent* event) {
+    QTreeView::focusInEvent(event);
+    if (event->reason() == Qt::MouseFocusReason || selectionModel()->hasSelection()) return;
+    selectionModel()->select(currentIndex(), QItemSelectionModel::Select | QItemSelectionModel::Rows);
+}
+
 void PropertyView::keyPressEvent(QKeyEvent* event) {
     if (opensEditor(*event)) {
         if (!event->isAutoRepeat()) editRow(currentIndex());
-        return;  // a held Return is not the host's
-    }
-    if (event->key() == Qt::Key_Delete && event->modifiers() == Qt::NoModifier) {
-        emit resetRequested();
-        return;
+        return;  // a held Return does not reach the host's default button
     }
     if (event->key() == Qt::Key_Left || event->key() == Qt::Key_Right) return event->ignore();
     QTreeView::keyPressEvent(event);
@@ -213,15 +301,24 @@ QModelIndex PropertyView::moveCursor(CursorAction action, Qt::KeyboardModifiers 
     return index.isValid() ? index.siblingAtColumn(valueColumn) : index;
 }
 
+void PropertyView::dataChanged(const QModelIndex& first, const QModelIndex& last, const QVector<int>& roles) {
+    QTreeView::dataChanged(first, last, roles);
+    if (!isMeasured_ || first != last || first.column() != valueColumn) return;
+    // A value that is not offered may be wider than those that are.
+    const int width = boldOption(valueColumn).fontMetrics.horizontalAdvance(first.data().toString());
+    if (width + values_.margins > values_.line) measureAgain();
+}
+
+// The columns come first, or the base class would ask for a scroll bar.
 void PropertyView::resizeEvent(QResizeEvent* event) {
-    QTreeView::resizeEvent(event);
     fitColumns();
+    QTreeView::resizeEvent(event);
 }
 
 void PropertyView::showEvent(QShowEvent* event) {
     QTreeView::showEvent(event);
     fitColumns();
-    executeDelayedItemsLayout();  // left to the first paint event, it would ask for a second one
+    executeDelayedItemsLayout();  // otherwise the first paint would schedule a second one
 }
 
 void PropertyView::changeEvent(QEvent* event) {

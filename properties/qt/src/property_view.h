@@ -1,11 +1,13 @@
-// The table of an inspector: columns that fit, keys that never change a value by accident, and a sentence
-// where there is nothing to show.
+// The table of an inspector: columns that fit, keys that never change a value by accident, and a placeholder
+// when it is empty.
 #pragma once
 
-#include <QHash>
 #include <QRegion>
 #include <QString>
+#include <QStyleOptionViewItem>
 #include <QTreeView>
+
+#include <optional>
 
 namespace tiv::properties {
 
@@ -14,54 +16,77 @@ class PropertyView : public QTreeView {
  public:
     explicit PropertyView(QWidget* parent);
 
-    // Shown instead of rows when there are none to see.
+    void setModel(QAbstractItemModel* model) override;
+    // Shown instead of rows when no row is visible.
     void setPlaceholder(const QString& text);
     // The rows or their texts have changed: makes room for them.
     void measureAgain();
     bool hasVisibleRows() const;
     // What a cell needs in its column, in pixels.
     int heightOf(const QModelIndex& cell) const;
-    // Whether the cell is being painted: a view asks its delegate for the whole row of any cell.
+    // True if the cell intersects the current paint region. (QTreeView paints whole rows.)
     bool paints(const QRect& cell) const { return painted_.intersects(cell); }
-    // What a text needs in any column, in pixels.
-    int widthOf(const QString& text) const;
-    int widestWord(const QString& text) const;
+    // The text of a cell, with places to break the words that are wider than its column.
+    QString fitted(const QModelIndex& cell) const;
+    // An arrow that turns back: the sign of a changed value, and its reset button.
+    static QString resetSign() { return QString(QChar(0x21BA)); }
+    // Leaves room behind the text for the arrow of a list.
+    void makeRoomForArrow(QStyleOptionViewItem& option) const;
     // Opens the editor of the row.
     void editRow(const QModelIndex& index);
-    // Rows that were hidden or shown have their places, and their cells for screen readers.
+    // Applies pending row changes now, so that accessible cells exist.
     void layOutNow() { executeDelayedItemsLayout(); }
     // Makes the first visible row the current one, if the current one is hidden.
     void leaveHiddenRow();
 
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
  signals:
-    void resetRequested();
+    // The row's reset sign was pressed.
+    void resetRequested(const QModelIndex& row);
 
  protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
     void keyboardSearch(const QString& text) override;
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+    void dataChanged(const QModelIndex& first, const QModelIndex& last, const QVector<int>& roles) override;
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
  private:
-    void measure();
-    int margin() const;
-    int wordWidth() const;
-    int wrappedHeight(const QString& text, int width) const;
-    QFont boldFont() const;
+    // What the texts of a column need, in pixels.
+    struct Widths {
+        int line = 0;     // the widest text in one line
+        int word = 0;     // the widest word
+        int margins = 0;  // what the style adds to a text; included above
+    };
+
+    void onClicked(const QModelIndex& cell);
+    void onSectionResized(int section, int before, int width);
+    void measure() const;
     void fitColumns();
+    QStyleOptionViewItem boldOption(int column) const;
+    QSize sizeOf(QStyleOptionViewItem& option, const QString& text) const;
+    QSize sizeFor(int lines, int width) const;
 
     QString placeholder_;
     QRegion painted_;
-    mutable QHash<QString, int> widths_;
-    mutable QHash<QPair<QString, int>, int> wrappedHeights_;  // by text and width
     QString searched_;
     qint64 searchedAt_ = 0;
-    int labelWidth_ = -1;  // what the widest label needs; -1: not measured
-    int valueWidth_ = 0;   // the widest value offered
+    mutable bool isMeasured_ = false;  // the next six are then valid
+    mutable Widths labels_;
+    mutable Widths values_;
+    mutable int leastLabel_ = 0;  // below this width a horizontal scroll bar appears
+    mutable int signWidth_ = 0;
+    mutable int lineHeight_ = 0;
+    std::optional<double> labelShare_;  // set by the user with the divider
+    bool isFitting_ = false;
+    bool breaksWords_ = false;  // of the labels
 };
 
 }  // namespace tiv::properties

@@ -1,5 +1,6 @@
 #include "properties/qt/src/qt_inspector_widget.h"
 
+#include "properties/definitions/paths.h"
 #include "properties/definitions/validators.h"
 #include "properties/qt/src/property_delegate.h"
 #include "properties/qt/src/property_view.h"
@@ -67,23 +68,24 @@ std::vector<PropertyValue> valuesOf(const RecordItemModel& rows, const Propertie
 
 QtInspectorWidget::QtInspectorWidget(QWidget* parent, std::shared_ptr<Properties> properties,
     std::shared_ptr<SelectionManager<container::model::Key>> selection,
-    std::shared_ptr<container::model::Model> model, InspectorHost host)
+    std::shared_ptr<container::model::Model> model, std::shared_ptr<const DefaultEditorFactory> editors,
+    std::shared_ptr<const DefaultValidatorFactory> validators, InspectorHost host)
     : QWidget(parent),
       rows_(new RecordItemModel(
           properties, std::move(model), std::move(selection),
           host.isEditable ? host.isEditable : [] { return true; }, this)),
       view_(new PropertyView(this)),
       host_(std::move(host)),
+      validators_(std::move(validators)),
       properties_(std::move(properties)) {
-    auto* delegate = new PropertyDelegate(view_);
+    auto* delegate = new PropertyDelegate(view_, std::move(editors));
     view_->setItemDelegate(delegate);
     view_->setModel(rows_);
     view_->setContextMenuPolicy(Qt::CustomContextMenu);
     view_->installEventFilter(this);
     connect(delegate, &PropertyDelegate::entered, this, &QtInspectorWidget::onEntered);
-    connect(view_, &QTreeView::clicked, this, &QtInspectorWidget::onClicked);
     connect(view_, &QWidget::customContextMenuRequested, this, &QtInspectorWidget::showMenu);
-    connect(view_, &PropertyView::resetRequested, this, [this] { reset(selectedProperties()); });
+    connect(view_, &PropertyView::resetRequested, this, &QtInspectorWidget::onResetRequested);
     connect(rows_, &RecordItemModel::recordChanged, this, &QtInspectorWidget::onRecordChanged);
 
     auto* layout = new QVBoxLayout(this);
@@ -95,8 +97,8 @@ QtInspectorWidget::QtInspectorWidget(QWidget* parent, std::shared_ptr<Properties
     updatePlaceholder();
 }
 
-void QtInspectorWidget::setPropertyFilterFunction(const std::function<bool(const std::string&)>& shows) {
-    rows_->show(shows);
+void QtInspectorWidget::setPropertyFilterFunction(std::function<bool(const std::string&)> shows) {
+    rows_->show(std::move(shows));
     for (int row = 0; row < rows_->rowCount(); ++row)
         if (!rows_->property(rows_->index(row, 0))) view_->setFirstColumnSpanned(row, {}, true);
     filterRows();
@@ -105,13 +107,10 @@ void QtInspectorWidget::setPropertyFilterFunction(const std::function<bool(const
 
 // ---- what the engineer does ----
 
-void QtInspectorWidget::onClicked(const QModelIndex& index) {
-    if (QApplication::keyboardModifiers() & (Qt::ControlModifier | Qt::ShiftModifier))
-        return;  // selects rows
-    const auto property = rows_->property(index);
+// Queued: an observer of the record may destroy the view, which is still handling the click.
+void QtInspectorWidget::onResetRequested(const QModelIndex& row) {
+    const auto property = rows_->property(row);
     if (!property) return;
-    if (index.column() != RecordItemModel::ResetColumn) return view_->editRow(index);
-    // With the next event: an observer of the record may destroy the view, which is in the midst of a click.
     QMetaObject::invokeMethod(
         this, [this, property] { reset({property}); }, Qt::QueuedConnection);
 }
@@ -134,6 +133,8 @@ bool QtInspectorWidget::onKey(const QKeyEvent& event, bool onlyAsk) {
     if (key.matches(QKeySequence::Undo)) return does(undo_.canUndo(), [&] { undo(); });
     if (key.matches(QKeySequence::Redo) || (key.key() == Qt::Key_Y && key.modifiers() == Qt::ControlModifier))
         return does(undo_.canRedo(), [&] { redo(); });
+    if (key.key() == Qt::Key_Delete && !(key.modifiers() & ~Qt::KeypadModifier))
+        return does(rows_->isEditable() || !onlyAsk, [&] { reset(selectedProperties()); });
     if (key.matches(QKeySequence::Copy)) return does(true, [&] { copyRows(); });
     if (key.matches(QKeySequence::Paste)) return does(bool(host_.pasteSettings), [&] { pasteSettings(); });
     if (key.matches(QKeySequence::Find)) return does(true, [&] { showFilter(); });
@@ -201,7 +202,7 @@ void QtInspectorWidget::addLevelMenu(
     QMenu* levels = menu.addMenu(rows_->text("Set to"));
     std::vector<NamedValue> offered;
     for (const auto& property : targets) {
-        const auto* entries = property->configuration.get<NamedValues>("editor.entries");
+        const auto* entries = property->configuration.get<NamedValues>(path::editorEntries);
         if (!entries) continue;
         for (const NamedValue& entry : **entries) {
             const auto same = [&](const NamedValue& known) { return known.value == entry.value; };
@@ -242,12 +243,11 @@ std::vector<std::shared_ptr<const Property>> QtInspectorWidget::shownChanged() c
 
 void QtInspectorWidget::choose(
     const std::vector<std::shared_ptr<const Property>>& targets, const QVariant& value) {
-    const DefaultValidatorFactory validators;
     std::vector<PropertyValue> wanted;
     QStringList skipped;
     for (const auto& property : targets) {
         if (rows_->current(*property) == value) continue;
-        if (validators.create(*property)(value))
+        if (validators_->create(*property)(value))
             wanted.push_back({property, value});
         else
             skipped << label(*properties_, *property);

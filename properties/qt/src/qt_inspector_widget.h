@@ -1,6 +1,6 @@
 // The property inspector: a table of labels and values over one record of an object model.
 //
-//     auto* inspector = new QtInspectorWidget(parent, properties, selection, model);
+//     auto* inspector = new QtInspectorWidget(parent, properties, selection, model, editors, validators);
 //     inspector->setPropertyFilterFunction([](const std::string& key) { return key == "prop.full"; });
 //
 // An edit is in the record before the next event, and every change of the record, whoever made it, is
@@ -31,6 +31,8 @@ class QMenu;
 
 namespace tiv::properties {
 
+class DefaultEditorFactory;
+class DefaultValidatorFactory;
 class PropertyView;
 class RecordItemModel;
 
@@ -47,10 +49,11 @@ class QtInspectorWidget : public QWidget {
  public:
     QtInspectorWidget(QWidget* parent, std::shared_ptr<Properties> properties,
         std::shared_ptr<SelectionManager<container::model::Key>> selection,
-        std::shared_ptr<container::model::Model> model, InspectorHost host = {});
+        std::shared_ptr<container::model::Model> model, std::shared_ptr<const DefaultEditorFactory> editors,
+        std::shared_ptr<const DefaultValidatorFactory> validators, InspectorHost host = {});
 
-    // Shows only the properties whose keys the function accepts. Without one, all are shown.
-    void setPropertyFilterFunction(const std::function<bool(const std::string&)>& shows);
+    // Shows only the properties whose keys the function accepts; all of them for an empty function.
+    void setPropertyFilterFunction(std::function<bool(const std::string&)> shows);
 
  signals:
     // The record has changed, whoever changed it. A slot may destroy the inspector.
@@ -61,7 +64,7 @@ class QtInspectorWidget : public QWidget {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-    void onClicked(const QModelIndex& index);
+    void onResetRequested(const QModelIndex& row);
     void onEntered(const QModelIndex& index, const QVariant& value);
     void onRecordChanged();
     bool onKey(const QKeyEvent& event, bool onlyAsk);
@@ -95,6 +98,7 @@ class QtInspectorWidget : public QWidget {
     RecordItemModel* rows_;
     PropertyView* view_;
     InspectorHost host_;
+    std::shared_ptr<const DefaultValidatorFactory> validators_;
     std::shared_ptr<Properties> properties_;
     QUndoStack undo_;
     QWidget* filterBar_ = nullptr;  // these four are made when they are first needed

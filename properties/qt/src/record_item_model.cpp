@@ -1,5 +1,7 @@
 #include "properties/qt/src/record_item_model.h"
 
+#include "properties/definitions/paths.h"
+
 #include <QFont>
 
 #include <algorithm>
@@ -10,9 +12,9 @@ namespace tiv::properties {
 namespace {
 
 // The entry that stands for the value, or null.
-const NamedValue* entryOf(const Branch& list, const char* entriesPath, const QVariant& value) {
-    const auto* entries = list.get<NamedValues>(entriesPath);
-    const auto* isEqual = list.get<IsEqual>("is_equal");
+const NamedValue* entryOf(const Property& property, std::string_view entriesPath, const QVariant& value) {
+    const auto* entries = property.configuration.get<NamedValues>(entriesPath);
+    const auto* isEqual = property.configuration.get<IsEqual>(path::editorIsEqual);
     if (!entries || !isEqual) return nullptr;
     for (const NamedValue& entry : **entries)
         if ((*isEqual)(entry.value, value)) return &entry;
@@ -20,8 +22,8 @@ const NamedValue* entryOf(const Branch& list, const char* entriesPath, const QVa
 }
 
 bool isOffered(const Property& property, const QVariant& value) {
-    const Branch editor = property.configuration.branch("editor");
-    return !editor.get<NamedValues>("entries") || entryOf(editor, "entries", value);
+    return !property.configuration.get<NamedValues>(path::editorEntries) ||
+           entryOf(property, path::editorEntries, value);
 }
 
 QVariant bold() {
@@ -41,10 +43,11 @@ RecordItemModel::RecordItemModel(std::shared_ptr<Properties> properties,
       editable_(std::move(editable)) {
     connect(&signals_, &DataModelSignals::recordChanged, this, &RecordItemModel::updateChanged);
     connect(&signals_, &DataModelSignals::recordChanged, this, &RecordItemModel::recordChanged);
-    show([](const std::string&) { return true; });
+    show({});
 }
 
-void RecordItemModel::show(const std::function<bool(const std::string&)>& shows) {
+void RecordItemModel::show(std::function<bool(const std::string&)> shows) {
+    if (!shows) shows = [](const std::string&) { return true; };
     std::vector<std::shared_ptr<const Property>> shown;
     for (const auto& property : properties_->list)
         if (shows(property->key)) shown.push_back(property);
@@ -111,10 +114,9 @@ QVariant RecordItemModel::current(const Property& property) const {
 }
 
 QString RecordItemModel::valueText(const Property& property, const QVariant& value) const {
-    const Branch editor = property.configuration.branch("editor");
-    if (const NamedValue* entry = entryOf(editor, "entries", value)) return entry->text;
+    if (const NamedValue* entry = entryOf(property, path::editorEntries, value)) return entry->text;
     if (isOffered(property, value)) return value.toString();
-    const NamedValue* known = entryOf(editor, "names", value);
+    const NamedValue* known = entryOf(property, path::editorNames, value);
     return text("%1 (not offered)").arg(known ? known->text : value.toString());
 }
 
@@ -122,11 +124,11 @@ QString RecordItemModel::valueText(const Property& property, const QVariant& val
 QString RecordItemModel::tooltipText(const Property& property, const QVariant& value) const {
     QStringList lines{label(*properties_, property)};
     if (property.tooltip) lines << tooltip(*properties_, property);
-    if (const auto* keyword = property.configuration.get<QString>("inspector.keyword"))
+    if (const auto* keyword = property.configuration.get<QString>(path::inspectorKeyword))
         lines << text("Keyword: %1").arg(*keyword);
     lines << text("Default: %1").arg(valueText(property, defaultValue(property)));
     if (!value.isValid()) return lines.join('\n');
-    if (const NamedValue* explained = entryOf(property.configuration.branch("editor"), "explanations", value))
+    if (const NamedValue* explained = entryOf(property, path::editorExplanations, value))
         lines << explained->text;
     if (!isOffered(property, value))
         lines << text("The stored value %1 is not offered. It stays until another one is chosen.")
@@ -168,7 +170,7 @@ QVariant RecordItemModel::cell(const QModelIndex& index, const Property& propert
         case ChangedRole:
             return changed;
         case SearchRole: {
-            const auto* keyword = property.configuration.get<QString>("inspector.keyword");
+            const auto* keyword = property.configuration.get<QString>(path::inspectorKeyword);
             return QStringList{label(*properties_, property),
                 QString::fromStdString(property.key),
                 keyword ? *keyword : QString(),

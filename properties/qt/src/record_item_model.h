@@ -28,9 +28,9 @@ class RecordItemModel : public QAbstractTableModel {
         std::shared_ptr<DataModelSignals::Selection> selection, std::function<bool()> editable,
         QObject* parent);
 
-    // Shows the properties whose keys `shows` accepts, by weight and then in order of the set, under the
-    // headings of their categories.
-    void show(const std::function<bool(const std::string&)>& shows);
+    // Shows the properties whose keys `shows` accepts, all for an empty function: by weight and then in order
+    // of the set, under the headings of their categories.
+    void show(std::function<bool(const std::string&)> shows);
     // The texts have changed their language.
     void retranslate();
 

@@ -320,8 +320,8 @@
         <translation>Einstellungen kopieren</translation>
     </message>
     <message>
-        <source>Paste settings</source>
-        <translation>Einstellungen einfügen</translation>
+        <source>Paste</source>
+        <translation>Einfügen</translation>
     </message>
     <message>
         <source>Filter</source>
@@ -354,6 +354,34 @@
     <message>
         <source>The clipboard does not hold settings.</source>
         <translation>Die Zwischenablage enthält keine Einstellungen.</translation>
+    </message>
+    <message>
+        <source>Choose value</source>
+        <translation>Wert wählen</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>Alles auswählen</translation>
+    </message>
+    <message>
+        <source>Hide filter</source>
+        <translation>Filter ausblenden</translation>
+    </message>
+    <message>
+        <source>Not pasted: %1</source>
+        <translation>Nicht eingefügt: %1</translation>
+    </message>
+    <message>
+        <source>Not changed, because the filter hides it: %1</source>
+        <translation>Nicht geändert, weil der Filter es ausblendet: %1</translation>
+    </message>
+    <message>
+        <source>Not a number of at most %1 decimal places: %2</source>
+        <translation>Keine Zahl mit höchstens %1 Nachkommastellen: %2</translation>
+    </message>
+    <message>
+        <source>The clipboard holds settings of another program.</source>
+        <translation>Die Zwischenablage enthält Einstellungen eines anderen Programms.</translation>
     </message>
 </context>
 </TS>

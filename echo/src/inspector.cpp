@@ -2,6 +2,7 @@
 
 #include "echo/src/internal_data.h"
 #include "echo/src/levels.h"
+#include "echo/src/settings_string.h"
 #include "properties/definitions/validators.h"
 #include "properties/qt/src/editors.h"
 #include "properties/qt/src/qt_inspector_widget.h"
@@ -9,6 +10,7 @@
 #include <QByteArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QMimeData>
 
 #include <algorithm>
 #include <stdexcept>
@@ -20,8 +22,17 @@ constexpr char settingsFirstByte = 0x0a;  // Compact Binary: a struct with id 0
 
 using WeakTable = std::weak_ptr<InternalInterface>;
 
-// Whether a line begins as settings do, with the envelope's field "prop". Whether it can be read is another
-// question.
+// The clipboard format of copied settings. Its content is the name of their record.
+QString settingsFormat() {
+    return QStringLiteral("application/x-tiv-echo-settings");
+}
+
+const properties::RecordAccess& recordOf(const InternalInterface& table) {
+    return *table.properties->list.front()->record;
+}
+
+// True if the line looks like settings, with the envelope's field "prop". Does not check that it can be
+// decoded.
 bool beginsAsSettings(const QString& line) {
     if (line.startsWith(QLatin1Char('{')))
         return QJsonDocument::fromJson(line.toUtf8()).object().contains(QStringLiteral("prop"));
@@ -30,13 +41,34 @@ bool beginsAsSettings(const QString& line) {
     return bytes && bytes.decoded.startsWith(settingsFirstByte);
 }
 
-// The loader is lenient with what a host has stored; a clipboard may hold anything, and a text of two
-// lines, or a word that only happens to be read, would reset every option.
-void paste(InternalInterface& table, const QString& text) {
-    const QString line = text.trimmed();
+std::unique_ptr<QMimeData> copySettings(InternalInterface& table) {
+    auto data = std::make_unique<QMimeData>();
+    data->setText(table.getXMLData());
+    data->setData(settingsFormat(), recordOf(table).schema.name);
+    return data;
+}
+
+// The loader is lenient with what a host has stored. A clipboard may hold anything, and a text of two lines,
+// or a word that happens to be valid base64, would reset every option.
+std::vector<properties::PropertyValue> readSettings(
+    const InternalInterface& table, const QMimeData& clipboard) {
+    const properties::RecordAccess& record = recordOf(table);
+    if (clipboard.hasFormat(settingsFormat()) && clipboard.data(settingsFormat()) != record.schema.name)
+        throw std::invalid_argument(
+            EchoData::tr("The clipboard holds settings of another program.").toStdString());
+    const QString line = clipboard.text().trimmed();
     if (line.contains(QLatin1Char('\n')) || !beginsAsSettings(line))
         throw std::invalid_argument(EchoData::tr("The clipboard does not hold settings.").toStdString());
-    table.insertXMLData(line);
+
+    container::model::Model read;
+    container::model::Transaction transaction(read);
+    record.insertDefault(transaction, recordKey());
+    readSettingsLine(settingsForm(line), line, record.schema, record.modify(read, recordKey()));
+    transaction.end();
+    std::vector<properties::PropertyValue> values;
+    for (const auto& property : table.properties->list)
+        values.push_back({property, properties::value(*property, read, recordKey())});
+    return values;
 }
 
 properties::InspectorHost host(
@@ -44,12 +76,19 @@ properties::InspectorHost host(
     return {
         [weak] { return !weak.expired(); },
         [properties] { offerLevels(*properties); },
+        [] { return EchoData::tr("Output options"); },
+        [] { return EchoData::tr("Set to"); },
+        [](const properties::Property& property) {
+            const auto* keyword = property.configuration.get<QString>(keywordPath);
+            return keyword ? *keyword : QString();
+        },
         [weak] {
             const auto table = weak.lock();
-            return table ? table->getXMLData() : QString();
+            return table ? copySettings(*table) : nullptr;
         },
-        [weak](const QString& text) {
-            if (const auto table = weak.lock()) paste(*table, text);
+        [weak](const QMimeData& clipboard) {
+            const auto table = weak.lock();
+            return table ? readSettings(*table, clipboard) : std::vector<properties::PropertyValue>();
         },
     };
 }

@@ -12,6 +12,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace tiv::echo::data {
@@ -60,6 +61,9 @@ class InternalInterface {
     // Makes the option's key visible if the option applies to the project.
     void showOption(const std::string& key, int option);
 };
+
+// Where a property's configuration holds the keywords of its option (QString: "REAC, REAK").
+inline constexpr std::string_view keywordPath = "echo.keyword";
 
 // The key of the settings record in every model.
 const container::model::Key& recordKey();

@@ -1,7 +1,6 @@
 #include "echo/src/program_data.h"
 
 #include "echo/schema/output_type.h"
-#include "properties/definitions/paths.h"
 #include "properties/qt/inc/nextgen/from_bond.h"
 #include "tiv/smartassert/smart_assert.h"
 
@@ -50,8 +49,7 @@ ProgramData::ProgramData(EchoData::ProgrammTypes type, int database, const Progr
 
     for (const bond::Row& field : optionFields(*served_).rows) {
         const OptionNumber& option = served_->options[field.id];
-        properties->list[field.id]->configuration.set(
-            properties::path::inspectorKeyword, keywords(option.number));
+        properties->list[field.id]->configuration.set(keywordPath, keywords(option.number));
         showOption(option.shownAs ? option.shownAs : std::string("prop.") + field.name, option.number);
     }
 }

@@ -29,7 +29,4 @@ inline constexpr std::string_view entries = "entries";
 inline constexpr std::string_view isEqual = "is_equal";
 inline constexpr std::string_view precision = "precision";
 
-// QString: the word of the field in the user's input text, shown in tooltips and found by the filter.
-inline constexpr std::string_view inspectorKeyword = "inspector.keyword";
-
 }  // namespace tiv::properties::path

@@ -91,6 +91,10 @@ QString category(const Properties& properties, const Property& property) {
     return translated(properties, property.key + ": category", property.category);
 }
 
+QString inspectorText(const Properties& properties, const char* source) {
+    return translated(properties, "inspector", source);
+}
+
 QVariant value(const Property& property, const Model& model, const Key& key) {
     return read(*property.field, structAt(property, property.record->read(model, key)));
 }

@@ -40,6 +40,8 @@ struct Properties {
 QString label(const Properties& properties, const Property& property);
 QString tooltip(const Properties& properties, const Property& property);  // null when it has none
 QString category(const Properties& properties, const Property& property);
+// A text of the inspector itself, by its source text.
+QString inspectorText(const Properties& properties, const char* source);
 
 // The field's value in the record under `key`: int for an enumeration, else bool, int, unsigned int,
 // qlonglong, qulonglong, double or QString. Throws what Model::read throws.

@@ -208,7 +208,7 @@ TEST_F(Host, KeepsToItsSessions) {
         {"file", [&](const Words& w) { return w.label + ": " + content(w.label); }},
         {"elements", [&](const Words& w) { return w.label + ": " + stored(file(w.label)); }},
     };
-    playSessions(TIV_SESSIONS, does, sees);
+    for (const Session& session : readSessions(TIV_SESSIONS)) play(session, does, sees);
     EXPECT_TRUE(answers.isEmpty());
     window.reset();  // reports go again where they went before
     const tiv::echo::EchoData unknown(static_cast<tiv::echo::EchoData::ProgrammTypes>(14), 0);

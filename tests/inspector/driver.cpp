@@ -1,6 +1,7 @@
 #include "inspector/driver.h"
 
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QTest>
@@ -106,23 +107,38 @@ void Driver::choose(const QString& label, const QString& level) {
     settle();
 }
 
-bool Driver::menu(const QString& entry) {
-    emit view->customContextMenuRequested({});
-    QList<QAction*> actions = widget->findChild<QMenu*>(QString(), Qt::FindDirectChildrenOnly)->actions();
+void Driver::openMenu() {
+    const QPoint at = view->visualRect(view->currentIndex()).center();
+    QContextMenuEvent event(QContextMenuEvent::Mouse, at, view->viewport()->mapToGlobal(at));
+    QApplication::sendEvent(view->viewport(), &event);
+}
+
+QAction* Driver::menuEntry(const QString& entry) const {
+    const auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
     QAction* found = nullptr;
     for (const QString& text : entry.split('/')) {
+        const QList<QAction*> actions = menu ? menu->actions() : QList<QAction*>();
         const auto named = [&](const QAction* one) { return one->text() == text; };
         const auto at = std::find_if(actions.begin(), actions.end(), named);
-        found = at != actions.end() ? *at : nullptr;
-        EXPECT_TRUE(found) << text.toStdString();
-        if (!found) break;
-        if (found->menu()) actions = found->menu()->actions();
+        EXPECT_NE(at, actions.end()) << text.toStdString();
+        if (at == actions.end()) return nullptr;
+        found = *at;
+        menu = found->menu();
     }
-    const bool isEnabled = found && found->isEnabled();
-    if (isEnabled) found->trigger();
+    return found;
+}
+
+void Driver::clickMenu(const QString& entry) {
+    QAction* action = menuEntry(entry);
+    EXPECT_TRUE(action && action->isEnabled()) << entry.toStdString();
+    if (action) action->trigger();
+    closeMenu();
+}
+
+void Driver::closeMenu() const {
     QApplication::activePopupWidget()->close();
+    QApplication::setActiveWindow(widget->window());
     settle();
-    return isEnabled;
 }
 
 QString Driver::tip(const QString& label) const {

@@ -3,6 +3,7 @@
 
 #include "support/session.h"
 
+#include <QAction>
 #include <QPointer>
 #include <QString>
 #include <QStringList>
@@ -30,8 +31,12 @@ class Driver {
     QString marked() const;                                   // the list's current entry
     bool pick(const QString& level);                          // false: no open list offers it
     void choose(const QString& label, const QString& level);  // two clicks
-    // Of the context menu, "Set to/Full output"; false: it is disabled.
-    bool menu(const QString& entry);
+    // The context menu of the current row.
+    void openMenu();
+    // "Set to/Full output" of the open menu; fails and gives null when there is none.
+    QAction* menuEntry(const QString& entry) const;
+    void clickMenu(const QString& entry);
+    void closeMenu() const;
     QString tip(const QString& label) const;
     QString message() const;  // the sentence below the table; empty when none is shown
     bool hasFocus() const;

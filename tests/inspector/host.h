@@ -18,10 +18,11 @@ inline int everyElement() {
 }
 
 struct Host {
-    explicit Host(int type, const QString& settings = QStringLiteral("CgAA"))
+    explicit Host(int type, const QString& settings = QStringLiteral("CgAA"), bool isEnabled = true)
         : echo(std::make_unique<tiv::echo::EchoData>(
               static_cast<tiv::echo::EchoData::ProgrammTypes>(type), everyElement())) {
         echo->insertXMLData(settings);
+        window.setEnabled(isEnabled);
         driver = std::make_unique<Driver>(inspector());
     }
     QWidget* inspector() {

@@ -168,14 +168,17 @@ TEST(Inspector, ForgetsItsStepsWhenAnotherGestureComesBetween) {
     EXPECT_EQ(host.driver->row("Loads"), "Default output");
 }
 
-std::vector<QAccessible::Event> spoken;
+QStringList spoken;  // the names of the cells and labels that got the focus of the screen reader
 
-TEST(Inspector, SpeaksToAScreenReader) {
+// Made under a disabled parent: Qt asks for accessible interfaces early then.
+TEST(Inspector, IsReadOutByAScreenReader) {
     // Only the platform can say that somebody listens.
     auto* platform = QGuiApplicationPrivate::platformIntegration()->accessibility();
     platform->setActive(true);
-    Host host(EchoData::ESK, json(R"("load":3)"));
+    Host host(EchoData::ESK, json(R"("load":3)"), false);
+    host.window.setEnabled(true);
     Driver& driver = *host.driver;
+    driver.view->setFocus();
     auto* tree = QAccessible::queryAccessibleInterface(driver.view);
     EXPECT_EQ(tree->text(QAccessible::Name), "Output options");
     const auto cell = [&](int row, int column) { return tree->tableInterface()->cellAt(row, column); };
@@ -183,43 +186,76 @@ TEST(Inspector, SpeaksToAScreenReader) {
     EXPECT_EQ(cell(2, 1)->text(QAccessible::Name), "Full output");
     EXPECT_EQ(cell(2, 1)->text(QAccessible::Description), "Changed. Default: Default output");
     EXPECT_EQ(cell(3, 1)->text(QAccessible::Description), "Default: Default output");
-    const auto previous =
-        QAccessible::installUpdateHandler([](QAccessibleEvent* event) { spoken.push_back(event->type()); });
+    const auto previous = QAccessible::installUpdateHandler([](QAccessibleEvent* event) {
+        if (event->type() == QAccessible::Focus)
+            spoken << event->accessibleInterface()->text(QAccessible::Name);
+    });
+    const auto press = [&](int key, Qt::KeyboardModifiers modifiers = {}) {
+        spoken.clear();
+        driver.key(key, modifiers);
+        return spoken.join('|');
+    };
+    const auto paste = [&](const char* settings) {
+        QApplication::clipboard()->setText(json(settings));
+        return press(Qt::Key_V, Qt::ControlModifier);
+    };
     driver.click("Loads");
     EXPECT_EQ(QAccessible::queryAccessibleInterface(driver.list())->text(QAccessible::Name), "Loads");
     driver.key(Qt::Key_Up);
-    EXPECT_EQ(std::count(spoken.begin(), spoken.end(), QAccessible::ValueChanged), 0);
-    spoken.clear();
-    driver.key(Qt::Key_Return);
-    EXPECT_EQ(driver.row("Loads"), "Normal output*");
-    EXPECT_EQ(std::count(spoken.begin(), spoken.end(), QAccessible::ValueChanged), 1);
-    EXPECT_EQ(std::count(spoken.begin(), spoken.end(), QAccessible::Focus), 1);
-    spoken.clear();
-    driver.key(Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(std::count(spoken.begin(), spoken.end(), QAccessible::ValueChanged), 1);
-    QApplication::clipboard()->setText(json(R"("disp":2,"load":4)"));
-    driver.key(Qt::Key_V, Qt::ControlModifier);
-    EXPECT_EQ(std::count(spoken.begin(), spoken.end(), QAccessible::ValueChanged), 1 + 2);
+    EXPECT_TRUE(press(Qt::Key_Return).endsWith("Normal output"));
+    EXPECT_EQ(press(Qt::Key_Z, Qt::ControlModifier), "Full output");
+    EXPECT_EQ(paste(R"("disp":2,"load":4)"), "Extensive output");
+    EXPECT_EQ(paste(R"("disp":)"), "Not changed: The clipboard does not hold settings.");
+    EXPECT_EQ(paste(R"("grp":1,"disp":1,"load":4)"), "No output") << "of another row";
     driver.key(Qt::Key_F, Qt::ControlModifier);
-    driver.type("sum");  // nothing else is to be seen
+    driver.type("sum");
     driver.view->setFocus();
-    spoken.clear();
-    QApplication::clipboard()->setText(json(R"("lsum":2,"load":1)"));
-    driver.key(Qt::Key_V, Qt::ControlModifier);
-    EXPECT_EQ(driver.rows(), QStringList("Sum of loads=Normal output*"));
-    EXPECT_EQ(std::count(spoken.begin(), spoken.end(), QAccessible::ValueChanged), 1);
+    EXPECT_EQ(paste(R"("lsum":2,"disp":1,"load":4,"grp":1)"), "Normal output");
     // All rows are shown again, and one is changed, before the view lays them out.
     QTest::keyClick(driver.widget->findChild<QLineEdit*>(), Qt::Key_Escape);
-    QApplication::clipboard()->setText(json(R"("bedd":2)"));
-    QTest::keyClick(driver.view, Qt::Key_V, Qt::ControlModifier);
+    QTest::keyClick(driver.widget->findChild<QLineEdit*>(), Qt::Key_Escape);
+    EXPECT_EQ(paste(R"("lsum":2,"disp":1,"load":4,"grp":1,"bedd":2)"), "Normal output");
     EXPECT_EQ(driver.row("Bedding stresses"), "Normal output*");
     QAccessible::installUpdateHandler(previous);
     platform->setActive(false);
 }
 
+// An object of another type under the record's key is no record.
+TEST(Inspector, ShowsNothingOfAnotherRecord) {
+    const auto table = tiv::echo::data::makeInternalData(EchoData::ESK, everyElement());
+    const std::unique_ptr<QWidget> widget(tiv::echo::data::makeInspector(table, nullptr));
+    Driver driver(widget.get());
+    const auto replace = [&](const auto& record) {
+        tiv::container::model::Transaction transaction(*table->model);
+        transaction.erase(tiv::echo::data::recordKey());
+        transaction.insert(tiv::echo::data::recordKey(), record);
+        transaction.end();
+        settle();
+    };
+    for (const bool hidden : {false, true}) {
+        widget->setVisible(!hidden);
+        replace(tiv::echo::esk::EigeData{});
+        EXPECT_EQ(driver.rows(), QStringList());
+        driver.key(Qt::Key_Delete);
+        replace(tiv::echo::esk::Data{});
+        widget->show();
+        EXPECT_EQ(driver.rows().size(), 9);
+    }
+    int changes = 0;
+    auto* inspector = qobject_cast<QtInspectorWidget*>(widget.get());
+    QObject::connect(inspector, &QtInspectorWidget::settingsChanged, [&] { ++changes; });
+    widget->hide();
+    table->insertXMLData(json(R"("load":3)"));
+    EXPECT_EQ(changes, 1) << "also while it is hidden";
+    inspector->setPropertyFilterFunction([](const std::string& key) { return key == "prop.load"; });
+    EXPECT_EQ(driver.rows(), QStringList("Loads=Full output*"));
+    inspector->setPropertyFilterFunction({});
+    EXPECT_EQ(driver.rows().size(), 10);
+}
+
 TEST(Inspector, CutsNoLabelAt460Pixels) {
     const QFont before = QApplication::font();
-    for (const int points : {9, 12, 24})
+    for (const int points : {9})
         for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft})
             for (const auto type : {EchoData::QSX_ELPL, EchoData::ESK, EchoData::MEXORA, EchoData::PLAX2}) {
                 speak(direction == Qt::LeftToRight);  // German has the longer words
@@ -309,49 +345,6 @@ TEST(Inspector, SurvivesEveryOrderOfDestruction) {
                 EXPECT_EQ(widget.isNull(), victim != "echo");
                 EXPECT_EQ(widget ? driver.rows().size() : 9, 9);
             }
-}
-
-QStringList values(const QWidget& inspector) {
-    QStringList texts;
-    const QAbstractItemModel& rows = *inspector.findChild<QTreeView*>()->model();
-    for (int i = 0; i < rows.rowCount(); ++i) texts << rows.index(i, 1).data().toString();
-    return texts;
-}
-
-// Random clicks, keys, wheel turns, loads and ends of the inspector: the rows always tell the record.
-TEST(Inspector, TellsTheRecordAfterWhateverHappens) {
-    std::mt19937 random;
-    const auto any = [&](const auto& list) { return std::data(list)[random() % std::size(list)]; };
-    const auto options = expectedOptions(10);
-    const std::vector<QString> levels{"Default output", "No output", "Normal output", "Full output"};
-    const Qt::Key keys[] = {Qt::Key_Up, Qt::Key_Down, Qt::Key_Return, Qt::Key_Escape, Qt::Key_Delete,
-        Qt::Key_Home, Qt::Key_PageDown, Qt::Key_Space, Qt::Key_N, Qt::Key_F};
-    const std::function<void(Driver&)> gestures[] = {
-        [&](Driver& driver) { driver.click(any(options).label, static_cast<int>(random() % 3)); },
-        [&](Driver& driver) { driver.click(any(options).label, 0, Qt::ShiftModifier); },
-        [&](Driver& driver) { driver.choose(any(options).label, any(levels)); },
-        [&](Driver& driver) { driver.pick(any(levels)); },
-        [&](Driver& driver) { driver.key(any(keys)); },
-        [&](Driver& driver) { driver.key(Qt::Key_Z, Qt::ControlModifier); },
-        [&](Driver& driver) { driver.key(Qt::Key_Y, Qt::ControlModifier); },
-        [](Driver& driver) { driver.wheel((driver.list() ? driver.list() : driver.view)->viewport()); },
-    };
-    for (const unsigned seed : {1U, 2U, 3U}) {
-        random.seed(seed);
-        Host host(EchoData::PLAX2);
-        for (int step = 0; step < 150; ++step) {
-            any(gestures)(*host.driver);
-            if (random() % 40 == 0) host.echo->insertXMLData(jsonSettings({any(options)}, {step % 5}));
-            if (random() % 40 == 0) {
-                delete host.driver->widget;
-                host.driver = std::make_unique<Driver>(host.inspector());
-            }
-            EchoData copy(EchoData::PLAX2, everyElement());
-            copy.insertXMLData(host.echo->getXMLData());
-            const std::unique_ptr<QWidget> fresh(copy.createPropertyInspector(nullptr));
-            ASSERT_EQ(values(*host.driver->widget), values(*fresh)) << "seed " << seed << ", step " << step;
-        }
-    }
 }
 
 }  // namespace

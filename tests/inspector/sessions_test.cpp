@@ -2,6 +2,7 @@
 #include "inspector/host.h"
 #include "support/session.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QClipboard>
 #include <QLineEdit>
@@ -11,18 +12,21 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 namespace {
 
 using namespace test;
 
 std::unique_ptr<Host> host;
-int reachedHost = 0;
+QStringList hostKeys;
 
 void open(int type, const QString& settings) {
     host = std::make_unique<Host>(type, settings);
-    reachedHost = 0;
-    auto* shortcut = new QShortcut(QKeySequence::Undo, &host->window);
-    QObject::connect(shortcut, &QShortcut::activated, [] { ++reachedHost; });
+    hostKeys.clear();
+    for (const QString key : {"Ctrl+Z", "Ctrl+Y", "Ctrl+S", "F9", "Del", "Space", "Esc", "L"})
+        QObject::connect(new QShortcut(QKeySequence(key), &host->window), &QShortcut::activated,
+            [key] { hostKeys << key; });
     auto* after = new QLineEdit;
     host->window.layout()->addWidget(after);
     QWidget::setTabOrder(host->driver->view, after);
@@ -44,57 +48,95 @@ void clickOutside() {
     QTest::mouseClick(host->driver->list()->window(), Qt::LeftButton, {}, {-9, -9});
 }
 
-// While the list is open, which is what the click meets.
+// While the list is open: the list receives the click.
 void clickAgain(const QString& label) {
     auto* popup = host->driver->list()->window();
     const QPoint cell = host->driver->view->viewport()->mapToGlobal(host->driver->cell(label, 1).center());
     QTest::mouseClick(popup, Qt::LeftButton, {}, popup->mapFromGlobal(cell));
 }
 
-TEST(Inspector, KeepsToItsSessions) {
-    const QRegularExpression value("=.*");
-    playSessions(TIV_SESSIONS,
-        {
-            {"open", [](const Words& w) { open(w.all.section(' ', 0, 0).toInt(), w.all.section(' ', 1)); }},
-            {"load", [](const Words& w) { host->echo->insertXMLData(w.all); }},
-            {"forget", [](const Words&) { host->echo.reset(); }},
-            {"choose", [](const Words& w) { host->driver->choose(w.label, w.value); }},
-            {"click", [](const Words& w) { host->driver->click(w.all); }},
-            {"name", [](const Words& w) { host->driver->click(w.all, 0); }},
-            {"also", [](const Words& w) { host->driver->click(w.all, 0, Qt::ControlModifier); }},
-            {"sign", [](const Words& w) { host->driver->click(w.all, 2); }},
-            {"menu", [](const Words& w) { EXPECT_TRUE(host->driver->menu(w.all)); }},
-            {"pick", [](const Words& w) { EXPECT_TRUE(host->driver->pick(w.all)); }},
-            {"press", [](const Words& w) { press(w.all); }},
-            {"type", [](const Words& w) { host->driver->type(w.all); }},
-            {"outside", [](const Words&) { clickOutside(); }},
-            {"hide", [](const Words&) { host->driver->list()->window()->hide(); }},
-            {"speak", [](const Words& w) { speak(w.all == "de"); }},
-            {"again", [](const Words& w) { clickAgain(w.all); }},
-            {"leave", [](const Words&) { host->driver->widget->hide(); }},
-            {"return", [](const Words&) { host->driver->widget->show(); }},
-            {"clipboard", [](const Words& w) { QApplication::clipboard()->setText(w.all); }},
-        },
-        {
-            {"settings", [](const Words&) { return host->echo->getXMLData().trimmed(); }},
-            {"row", [](const Words& w) { return w.label + " = " + host->driver->row(w.label); }},
-            {"labels",
-                [&](const Words&) { return host->driver->rows().replaceInStrings(value, "").join('|'); }},
-            {"list", [](const Words&) { return host->driver->offered().join('|'); }},
-            {"marked", [](const Words&) { return host->driver->marked(); }},
-            {"message", [](const Words&) { return host->driver->message(); }},
-            {"focus", [](const Words&) { return focus(); }},
-            {"current",
-                [](const Words&) {
-                    return host->driver->view->currentIndex().siblingAtColumn(0).data().toString();
-                }},
-            {"copied", [](const Words&) { return QApplication::clipboard()->text(); }},
-            {"tip", [](const Words& w) { return w.label + ": " + host->driver->tip(w.label); }},
-            {"disabled", [](const Words& w) { return host->driver->menu(w.all) ? "" : w.all; }},
-            {"host", [](const Words&) { return QString::number(reachedHost); }},
-        });
+bool isInView() {
+    const auto& view = *host->driver->view;
+    return view.viewport()->rect().contains(view.visualRect(view.currentIndex()).center());
+}
+
+void menu(const QString& entry) {
+    host->driver->openMenu();
+    host->driver->clickMenu(entry);
+}
+
+// What the look gives for an entry of the menu.
+QString menuEntry(const QString& entry, QString (*look)(const QAction&)) {
+    host->driver->openMenu();
+    const QAction* action = host->driver->menuEntry(entry);
+    const QString seen = action ? look(*action) : QString();
+    host->driver->closeMenu();
+    return seen;
+}
+
+const Does does{
+    {"open", [](const Words& w) { open(w.all.section(' ', 0, 0).toInt(), w.all.section(' ', 1)); }},
+    {"insert", [](const Words& w) { host->echo->insertXMLData(w.all); }},
+    {"destroy-echo", [](const Words&) { host->echo.reset(); }},
+    {"choose", [](const Words& w) { host->driver->choose(w.label, w.value); }},
+    {"click-value", [](const Words& w) { host->driver->click(w.all); }},
+    {"click-label", [](const Words& w) { host->driver->click(w.all, 0); }},
+    {"ctrl-click", [](const Words& w) { host->driver->click(w.all, 0, Qt::ControlModifier); }},
+    {"click-reset", [](const Words& w) { host->driver->click(w.all, 2); }},
+    {"menu", [](const Words& w) { menu(w.all); }},
+    {"open-menu", [](const Words&) { host->driver->openMenu(); }},
+    {"click-menu", [](const Words& w) { host->driver->clickMenu(w.all); }},
+    {"pick", [](const Words& w) { EXPECT_TRUE(host->driver->pick(w.all)); }},
+    {"press", [](const Words& w) { press(w.all); }},
+    {"type", [](const Words& w) { host->driver->type(w.all); }},
+    {"click-outside", [](const Words&) { clickOutside(); }},
+    {"hide-list", [](const Words&) { host->driver->list()->window()->hide(); }},
+    {"language", [](const Words& w) { speak(w.all == "de"); }},
+    {"click-again", [](const Words& w) { clickAgain(w.all); }},
+    {"hide-inspector", [](const Words&) { host->driver->widget->hide(); }},
+    {"show-inspector", [](const Words&) { host->driver->widget->show(); }},
+    {"shrink", [](const Words&) { host->window.resize(460, 150); }},
+    {"clipboard", [](const Words& w) { QApplication::clipboard()->setText(w.all); }},
+};
+
+const Sees sees{
+    {"settings", [](const Words&) { return host->echo->getXMLData().trimmed(); }},
+    {"row", [](const Words& w) { return w.label + " = " + host->driver->row(w.label); }},
+    {"labels",
+        [](const Words&) {
+            return host->driver->rows().replaceInStrings(QRegularExpression("=.*"), "").join('|');
+        }},
+    {"list", [](const Words&) { return host->driver->offered().join('|'); }},
+    {"list-current", [](const Words&) { return host->driver->marked(); }},
+    {"message", [](const Words&) { return host->driver->message(); }},
+    {"focus", [](const Words&) { return focus(); }},
+    {"current",
+        [](const Words&) { return host->driver->view->currentIndex().siblingAtColumn(0).data().toString(); }},
+    {"in-view", [](const Words&) { return QString(isInView() ? "yes" : "no"); }},
+    {"copied", [](const Words&) { return QApplication::clipboard()->text(); }},
+    {"tip", [](const Words& w) { return w.label + ": " + host->driver->tip(w.label); }},
+    {"menu-disabled",
+        [](const Words& w) {
+            return menuEntry(w.all, [](const QAction& one) { return one.isEnabled() ? "" : one.text(); });
+        }},
+    {"menu-key",
+        [](const Words& w) {
+            return w.label + " = " +
+                   menuEntry(w.label, [](const QAction& one) { return one.shortcut().toString(); });
+        }},
+    {"host-keys", [](const Words&) { return std::exchange(hostKeys, {}).join('|'); }},
+};
+
+class InspectorSession : public testing::TestWithParam<Session> {};
+
+TEST_P(InspectorSession, IsAsWritten) {
+    play(GetParam(), does, sees);
+    speak(false);
     host.reset();
     QTest::qWait(50);  // animations of the filter see that it is gone
 }
+
+INSTANTIATE_TEST_SUITE_P(
+    Inspector, InspectorSession, testing::ValuesIn(readSessions(TIV_SESSIONS)), testName);
 
 }  // namespace

@@ -1,15 +1,22 @@
-// Sessions are plain text: what a user does, and what is then seen. A line is a verb and what it is about;
-// a verb that sees fails the test unless the rest of its line is what it sees. "\n" and "\t" stand for
-// themselves, a line that begins with "#" is a comment.
+// Sessions are plain text: what a user does, and what is then seen. A line is a verb and its argument. A verb
+// that sees fails the test unless its argument is what it sees, and an unknown verb fails. "\n" and "\t" are
+// escapes. A session begins with its title; an empty line ends it:
 //
+//     # A choice is written at once.
 //     choose Groups = Full output
 //     settings CjAGAAA=
 #pragma once
 
 #include <QString>
+#include <QStringList>
+
+#include <gtest/gtest.h>
 
 #include <functional>
 #include <map>
+#include <ostream>
+#include <string>
+#include <vector>
 
 namespace test {
 
@@ -21,11 +28,21 @@ struct Words {
 using Does = std::map<QString, std::function<void(const Words&)>>;
 using Sees = std::map<QString, std::function<QString(const Words&)>>;
 
-void playSessions(const QString& file, const Does& does, const Sees& sees);
+struct Session {
+    QString title;
+    int line;  // of the title in its file, from 1
+    QStringList lines;
+};
+// Those of a file. A comment without lines is none.
+std::vector<Session> readSessions(const QString& file);
+void play(const Session& session, const Does& does, const Sees& sees);
+// Its title as the name of a test: "A_choice_is_written_at_once".
+std::string testName(const testing::TestParamInfo<Session>& session);
+void PrintTo(const Session& session, std::ostream* out);  // name as GoogleTest expects it
 
-// Lets everything happen that is due.
+// Processes pending events.
 void settle();
-// The application speaks German, or English.
+// Sets the language of the application: German or English.
 void speak(bool german);
 
 }  // namespace test

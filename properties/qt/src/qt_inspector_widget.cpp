@@ -1,207 +1,257 @@
 #include "properties/qt/src/qt_inspector_widget.h"
 
 #include "properties/definitions/paths.h"
-#include "properties/definitions/validators.h"
+#include "properties/qt/src/clipboard.h"
+#include "properties/qt/src/filter_bar.h"
 #include "properties/qt/src/property_delegate.h"
 #include "properties/qt/src/property_view.h"
 #include "properties/qt/src/record_item_model.h"
 
 #include <QAccessible>
-#include <QAction>
 #include <QApplication>
-#include <QCheckBox>
 #include <QClipboard>
 #include <QEvent>
-#include <QHBoxLayout>
 #include <QItemSelectionModel>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QLineEdit>
 #include <QMenu>
-#include <QUndoCommand>
+#include <QPointer>
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <cstddef>
 #include <exception>
-#include <memory>
 #include <utility>
 
 namespace tiv::properties {
 namespace {
 
-// One undo step. Plain data: the inspector writes it, so that a step that cannot be taken is not taken.
-struct Step : public QUndoCommand {
-    Step(std::vector<PropertyValue> from, std::vector<PropertyValue> to)
-        : before(std::move(from)), after(std::move(to)) {}
-    const std::vector<PropertyValue> before, after;
-};
-
-// Without case and accents: "Träger" and "TRAGER" fold to the same.
-QString folded(const QString& text) {
-    QString result;
-    for (const QChar c : text.normalized(QString::NormalizationForm_KD))
-        if (c.category() != QChar::Mark_NonSpacing) result += c;
-    return result.toCaseFolded();
+bool concerns(const std::vector<PropertyValue>& values, const std::shared_ptr<const Property>& property) {
+    return property && std::any_of(values.begin(), values.end(), [&](const PropertyValue& value) {
+        return value.property == property;
+    });
 }
 
-// From the values before to those after, of the same properties; none when nothing differs.
-std::unique_ptr<Step> stepBetween(
-    const std::vector<PropertyValue>& before, const std::vector<PropertyValue>& after) {
-    std::vector<PropertyValue> from, to;
-    for (std::size_t i = 0; i < after.size(); ++i) {
-        if (before[i].value == after[i].value) continue;
-        from.push_back(before[i]);
-        to.push_back(after[i]);
-    }
-    return to.empty() ? nullptr : std::make_unique<Step>(std::move(from), std::move(to));
+QList<QKeySequence> redoKeys() {
+    auto keys = QKeySequence::keyBindings(QKeySequence::Redo);
+    const QKeySequence ofWindows(QStringLiteral("Ctrl+Y"));
+    if (!keys.contains(ofWindows)) keys << ofWindows;
+    return keys;
 }
 
-std::vector<PropertyValue> valuesOf(const RecordItemModel& rows, const Properties& properties) {
-    std::vector<PropertyValue> values;
-    values.reserve(properties.list.size());
-    for (const auto& property : properties.list) values.push_back({property, rows.current(*property)});
-    return values;
+QList<QKeySequence> keys(const QStringList& texts) {
+    QList<QKeySequence> result;
+    for (const QString& text : texts) result << QKeySequence(text);
+    return result;
 }
 
 }  // namespace
 
+// The view gets its parent when it is complete: under a disabled parent Qt would make its accessible interface
+// within the constructor of QWidget, and keep it.
 QtInspectorWidget::QtInspectorWidget(QWidget* parent, std::shared_ptr<Properties> properties,
     std::shared_ptr<SelectionManager<container::model::Key>> selection,
     std::shared_ptr<container::model::Model> model, std::shared_ptr<const DefaultEditorFactory> editors,
     std::shared_ptr<const DefaultValidatorFactory> validators, InspectorHost host)
-    : QWidget(parent),
-      rows_(new RecordItemModel(
-          properties, std::move(model), std::move(selection),
-          host.isEditable ? host.isEditable : [] { return true; }, this)),
-      view_(new PropertyView(this)),
-      host_(std::move(host)),
-      validators_(std::move(validators)),
-      properties_(std::move(properties)) {
+    : QWidget(parent), properties_(std::move(properties)), host_(std::move(host)) {
+    const auto record = std::make_shared<DataModelSignals>(std::move(model),
+        std::move(selection),
+        properties_->list.empty() ? nullptr : properties_->list.front()->record);
+    editor_ = new RecordEditor(properties_, record, std::move(validators), host_.isEditable, this);
+    rows_ = new RecordItemModel(
+        properties_, record, [editor = editor_] { return editor->isEditable(); }, host_.keyword, this);
+    view_ = new PropertyView(nullptr);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(view_);
     auto* delegate = new PropertyDelegate(view_, std::move(editors));
     view_->setItemDelegate(delegate);
     view_->setModel(rows_);
     view_->setContextMenuPolicy(Qt::CustomContextMenu);
     view_->installEventFilter(this);
+    setFocusProxy(view_);
     connect(delegate, &PropertyDelegate::entered, this, &QtInspectorWidget::onEntered);
     connect(view_, &QWidget::customContextMenuRequested, this, &QtInspectorWidget::showMenu);
     connect(view_, &PropertyView::resetRequested, this, &QtInspectorWidget::onResetRequested);
-    connect(rows_, &RecordItemModel::recordChanged, this, &QtInspectorWidget::onRecordChanged);
-
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(view_);
-    setFocusProxy(view_);
-    setAccessibleName(rows_->text("Output options"));
-    view_->setAccessibleName(accessibleName());
-    updatePlaceholder();
+    connect(rows_, &RecordItemModel::modelReset, this, &QtInspectorWidget::onRowsReset);
+    connect(editor_, &RecordEditor::recordChanged, this, &QtInspectorWidget::onRecordChanged);
+    connect(editor_, &RecordEditor::written, this, &QtInspectorWidget::reveal);
+    connect(editor_, &RecordEditor::refused, this, &QtInspectorWidget::say);
+    connect(editor_, &RecordEditor::restored, this, [this](const auto& values) {
+        unhide(values);
+        reveal(values);
+    });
+    onRowsReset();
 }
 
 void QtInspectorWidget::setPropertyFilterFunction(std::function<bool(const std::string&)> shows) {
     rows_->show(std::move(shows));
+}
+
+// ---- the record and its rows ----
+
+void QtInspectorWidget::onRecordChanged() {
+    isStale_ = true;
+    if (isVisible() || rows_->isOutdated()) {
+        clearMessage();
+        rows_->update();
+        isStale_ = false;
+    }
+    emit settingsChanged();
+}
+
+void QtInspectorWidget::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    if (!std::exchange(isStale_, false)) return;
+    clearMessage();
+    rows_->update();
+}
+
+void QtInspectorWidget::onRowsReset() {
     for (int row = 0; row < rows_->rowCount(); ++row)
         if (!rows_->property(rows_->index(row, 0))) view_->setFirstColumnSpanned(row, {}, true);
     filterRows();
+    updateTexts();
+}
+
+void QtInspectorWidget::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() != QEvent::LanguageChange) return;
+    if (host_.retranslate) host_.retranslate();
+    clearMessage();  // still in the old language, as are open menus
+    for (auto* menu : findChildren<QMenu*>(QString(), Qt::FindDirectChildrenOnly)) menu->close();
+    rows_->retranslate();
+    filterRows();
+    updateTexts();
+}
+
+void QtInspectorWidget::updateTexts() {
+    if (host_.name) setAccessibleName(host_.name());
+    view_->setAccessibleName(accessibleName());
+    if (filter_) filter_->setTexts(rows_->text("Filter"), rows_->text("Changed only"));
+    view_->setPlaceholder(rows_->rowCount() > 0 ? rows_->text("No option matches the filter.")
+                                                : rows_->text("No option applies."));
     view_->measureAgain();
 }
 
-// ---- what the engineer does ----
+// ---- gestures ----
 
-// Queued: an observer of the record may destroy the view, which is still handling the click.
-void QtInspectorWidget::onResetRequested(const QModelIndex& row) {
-    const auto property = rows_->property(row);
-    if (!property) return;
-    QMetaObject::invokeMethod(
-        this, [this, property] { reset({property}); }, Qt::QueuedConnection);
-}
-
+// Selected rows are set together, but only if the row is one of them.
 void QtInspectorWidget::onEntered(const QModelIndex& index, const QVariant& value) {
     const auto property = rows_->property(index);
     if (!property) return;  // its row has gone
-    auto targets = selectedProperties();
-    if (std::find(targets.begin(), targets.end(), property) == targets.end()) targets = {property};
-    choose(targets, value);
+    PropertyList edited = targets();
+    if (std::find(edited.begin(), edited.end(), property) == edited.end()) edited = {property};
+    clearMessage();
+    editor_->set(edited, value);
 }
 
-// With `onlyAsk`, says whether the key would do something here; otherwise it is the host's.
-bool QtInspectorWidget::onKey(const QKeyEvent& event, bool onlyAsk) {
-    const auto does = [&](bool possible, auto action) {
-        if (possible && !onlyAsk) action();
-        return possible;
+// Queued: an observer of the record may destroy the view, which is still handling the click.
+void QtInspectorWidget::onResetRequested(const QModelIndex& index) {
+    const auto property = rows_->property(index);
+    if (!property) return;
+    const auto reset = [this, property] {
+        clearMessage();
+        editor_->reset({property});
     };
-    auto& key = const_cast<QKeyEvent&>(event);
-    if (key.matches(QKeySequence::Undo)) return does(undo_.canUndo(), [&] { undo(); });
-    if (key.matches(QKeySequence::Redo) || (key.key() == Qt::Key_Y && key.modifiers() == Qt::ControlModifier))
-        return does(undo_.canRedo(), [&] { redo(); });
-    if (key.key() == Qt::Key_Delete && !(key.modifiers() & ~Qt::KeypadModifier))
-        return does(rows_->isEditable() || !onlyAsk, [&] { reset(selectedProperties()); });
-    if (key.matches(QKeySequence::Copy)) return does(true, [&] { copyRows(); });
-    if (key.matches(QKeySequence::Paste)) return does(bool(host_.pasteSettings), [&] { pasteSettings(); });
-    if (key.matches(QKeySequence::Find)) return does(true, [&] { showFilter(); });
-    if (key.key() == Qt::Key_Escape && key.modifiers() == Qt::NoModifier)
-        return does(filterBar_ && filterBar_->isVisible(), [&] { hideFilter(); });
-    return false;
+    QMetaObject::invokeMethod(this, reset, Qt::QueuedConnection);
 }
 
-// In the filter bar, where Return and Escape are not the host's, either.
-bool QtInspectorWidget::onFilterKey(const QKeyEvent& event, bool onlyAsk) {
-    switch (event.key()) {
-        case Qt::Key_Escape:
-            if (!onlyAsk) query_->text().isEmpty() ? hideFilter() : query_->clear();
-            return true;
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-            if (!onlyAsk) view_->setFocus();
-            return true;
-        default:
-            return false;
-    }
-}
-
-bool QtInspectorWidget::eventFilter(QObject* watched, QEvent* event) {
+bool QtInspectorWidget::eventFilter(QObject* /*watched*/, QEvent* event) {
     const bool asks = event->type() == QEvent::ShortcutOverride;
     if (!asks && event->type() != QEvent::KeyPress) return false;
-    auto* key = static_cast<QKeyEvent*>(event);
-    if (!(watched == view_ ? onKey(*key, asks) : onFilterKey(*key, asks))) return false;
+    const auto* key = static_cast<QKeyEvent*>(event);
+    if (!(asks ? isClaimed(commands(), *key) : runCommand(commands(), *key))) return false;
     event->accept();
     return true;
 }
 
-void QtInspectorWidget::showMenu(const QPoint& position) {
-    const auto selected = selectedProperties();
-    const auto changed = shownChanged();
-    const bool editable = rows_->isEditable();
-    auto* menu = new QMenu(this);  // not waited for: the inspector may go while it is open
-    menu->setAttribute(Qt::WA_DeleteOnClose);
-    const auto add = [&](const QString& text, bool enabled, auto action) {
-        QAction* entry = menu->addAction(text);
-        entry->setEnabled(enabled);
-        connect(entry, &QAction::triggered, this, action, Qt::QueuedConnection);
+// The menu shows the first key of each.
+std::vector<Command> QtInspectorWidget::commands() {
+    const auto always = [] { return true; };
+    const auto hasTargets = [this] { return editor_->isEditable() && !targets().empty(); };
+    const auto hasChanged = [this] { return editor_->isEditable() && !shownChanged().empty(); };
+    const auto gesture = [this](auto action) {
+        return [this, action] {
+            clearMessage();
+            action();
+        };
     };
-    addLevelMenu(*menu, selected);
-    add(rows_->text("Reset to default"), editable && !selected.empty(), [this, selected] {
-        reset(selected);
-    });
-    add(rows_->text("Reset all shown (%1)").arg(changed.size()),
-        editable && !changed.empty(),
-        [this, changed] { reset(changed); });
-    menu->addSeparator();
-    add(rows_->text("Undo"), editable && undo_.canUndo(), [this] { undo(); });
-    add(rows_->text("Redo"), editable && undo_.canRedo(), [this] { redo(); });
-    menu->addSeparator();
-    add(rows_->text("Copy"), !selected.empty(), [this] { copyRows(); });
-    if (host_.copySettings) add(rows_->text("Copy settings"), editable, [this] { copySettings(); });
-    if (host_.pasteSettings) add(rows_->text("Paste settings"), editable, [this] { pasteSettings(); });
-    menu->addSeparator();
-    add(rows_->text("Filter"), true, [this] { showFilter(); });
+    const QString resetAll = rows_->text("Reset all shown (%1)");
+    std::vector<Command> list{
+        {rows_->text("Choose value"),
+            keys({"Return", "Enter", "F2", "F4", "Space", "Alt+Down", "Alt+Up"}),
+            Command::ClaimedButNotHeld,
+            hasTargets,
+            [this] { view_->editRow(view_->currentIndex()); }},
+        {rows_->text("Reset to default"), keys({"Del"}), Command::Claimed, hasTargets, gesture([this] {
+             editor_->reset(targets());
+         })},
+        {resetAll.arg(shownChanged().size()), {}, Command::Claimed, hasChanged, gesture([this] {
+             editor_->reset(shownChanged());
+         })},
+        {rows_->text("Undo"),
+            QKeySequence::keyBindings(QKeySequence::Undo),
+            Command::ClaimedIfPossible,
+            [this] { return editor_->canUndo(); },
+            gesture([this] { editor_->undo(); }),
+            true},
+        {rows_->text("Redo"),
+            redoKeys(),
+            Command::ClaimedIfPossible,
+            [this] { return editor_->canRedo(); },
+            gesture([this] { editor_->redo(); })},
+        {rows_->text("Copy"),
+            QKeySequence::keyBindings(QKeySequence::Copy),
+            Command::Claimed,
+            [this] { return !targets().empty(); },
+            [this] { copyRows(); },
+            true},
+    };
+    if (host_.copySettings)
+        list.push_back({rows_->text("Copy settings"),
+            {},
+            Command::Claimed,
+            [this] { return editor_->isEditable(); },
+            [this] { copySettings(); }});
+    list.push_back({rows_->text("Paste"),
+        QKeySequence::keyBindings(QKeySequence::Paste),
+        Command::Claimed,
+        [this] { return editor_->isEditable(); },
+        gesture([this] { paste(); })});
+    list.push_back({rows_->text("Select all"),
+        QKeySequence::keyBindings(QKeySequence::SelectAll),
+        Command::Claimed,
+        always,
+        [this] { view_->selectAll(); },
+        true});
+    list.push_back({rows_->text("Filter"),
+        QKeySequence::keyBindings(QKeySequence::Find),
+        Command::Claimed,
+        always,
+        [this] { showFilter(); }});
+    list.push_back({rows_->text("Hide filter"),
+        keys({"Esc"}),
+        Command::ClaimedIfPossible,
+        [this] { return filter_ && filter_->isVisible(); },
+        [this] {
+            if (filter_) filter_->close();
+        }});
+    return list;
+}
+
+// popup(), not exec(): the inspector may be destroyed while the menu is open.
+void QtInspectorWidget::showMenu(const QPoint& position) {
+    QMenu* menu = makeMenu(commands(), this);
+    if (host_.setTo) addValueMenu(*menu);
     menu->popup(view_->viewport()->mapToGlobal(position));
 }
 
-void QtInspectorWidget::addLevelMenu(
-    QMenu& menu, const std::vector<std::shared_ptr<const Property>>& targets) {
-    QMenu* levels = menu.addMenu(rows_->text("Set to"));
+// Of all values that the rows offer.
+void QtInspectorWidget::addValueMenu(QMenu& menu) {
+    auto* values = new QMenu(host_.setTo(), &menu);
+    menu.insertMenu(menu.actions().at(1), values);  // behind the command that opens the list
     std::vector<NamedValue> offered;
-    for (const auto& property : targets) {
+    for (const auto& property : targets()) {
         const auto* entries = property->configuration.get<NamedValues>(path::editorEntries);
         if (!entries) continue;
         for (const NamedValue& entry : **entries) {
@@ -209,233 +259,181 @@ void QtInspectorWidget::addLevelMenu(
             if (std::none_of(offered.begin(), offered.end(), same)) offered.push_back(entry);
         }
     }
-    for (const NamedValue& entry : offered)
-        connect(
-            levels->addAction(entry.text),
-            &QAction::triggered,
-            this,
-            [this, targets, value = entry.value] { choose(targets, value); },
-            Qt::QueuedConnection);
-    levels->setEnabled(rows_->isEditable() && !offered.empty());
+    for (const NamedValue& entry : offered) {
+        const auto set = [this, value = entry.value] {
+            clearMessage();
+            editor_->set(targets(), value);
+        };
+        connect(values->addAction(entry.text), &QAction::triggered, this, set, Qt::QueuedConnection);
+    }
+    values->setEnabled(editor_->isEditable() && !offered.empty());
 }
 
-std::vector<std::shared_ptr<const Property>> QtInspectorWidget::selectedProperties() const {
+// Those of the selected rows; without any, of the current row. A row that the filter hides is none of them.
+PropertyList QtInspectorWidget::targets() const {
     QModelIndexList indexes = view_->selectionModel()->selectedRows();
+    if (indexes.isEmpty()) indexes << view_->currentIndex();
     std::sort(indexes.begin(), indexes.end());
-    std::vector<std::shared_ptr<const Property>> result;
+    PropertyList result;
     for (const QModelIndex& index : indexes)
         if (auto property = rows_->property(index); property && !view_->isRowHidden(index.row(), {}))
             result.push_back(std::move(property));
     return result;
 }
 
-std::vector<std::shared_ptr<const Property>> QtInspectorWidget::shownChanged() const {
-    std::vector<std::shared_ptr<const Property>> result;
-    for (int row = 0; row < rows_->rowCount(); ++row) {
-        const QModelIndex index = rows_->index(row, 0);
-        if (!view_->isRowHidden(row, {}) && index.data(RecordItemModel::ChangedRole).toBool())
-            result.push_back(rows_->property(index));
-    }
+PropertyList QtInspectorWidget::shownProperties() const {
+    PropertyList result;
+    for (int row = 0; row < rows_->rowCount(); ++row)
+        if (auto property = rows_->property(rows_->index(row, 0)); property && !view_->isRowHidden(row, {}))
+            result.push_back(std::move(property));
     return result;
 }
 
-// ---- changes of the record ----
-
-void QtInspectorWidget::choose(
-    const std::vector<std::shared_ptr<const Property>>& targets, const QVariant& value) {
-    std::vector<PropertyValue> wanted;
-    QStringList skipped;
-    for (const auto& property : targets) {
-        if (rows_->current(*property) == value) continue;
-        if (validators_->create(*property)(value))
-            wanted.push_back({property, value});
-        else
-            skipped << label(*properties_, *property);
-    }
-    const QPointer<QtInspectorWidget> self(this);
-    apply(wanted);
-    if (self && !skipped.isEmpty()) say(rows_->text("Not offered for: %1").arg(skipped.join(", ")));
-}
-
-void QtInspectorWidget::reset(const std::vector<std::shared_ptr<const Property>>& targets) {
-    std::vector<PropertyValue> wanted;
-    wanted.reserve(targets.size());
-    for (const auto& property : targets) wanted.push_back({property, defaultValue(*property)});
-    apply(wanted);
-}
-
-void QtInspectorWidget::apply(const std::vector<PropertyValue>& wanted) {
-    std::vector<PropertyValue> current;
-    current.reserve(wanted.size());
-    for (const PropertyValue& one : wanted) current.push_back({one.property, rows_->current(*one.property)});
-    auto step = stepBetween(current, wanted);
-    if (step && write(step->after)) undo_.push(step.release());
-}
-
-// What a screen reader reads out after a gesture of the engineer.
-void QtInspectorWidget::announce(const std::vector<PropertyValue>& values) {
-    if (!QAccessible::isActive()) return;
-    view_->layOutNow();
-    QAccessibleTableInterface* table = QAccessible::queryAccessibleInterface(view_)->tableInterface();
-    int visible = 0;  // rows before this one: no others have cells
-    for (int row = 0; row < rows_->rowCount(); ++row) {
-        if (view_->isRowHidden(row, {})) continue;
-        const QModelIndex index = rows_->index(row, RecordItemModel::ValueColumn);
-        const auto property = rows_->property(index);
-        const auto isRow = [&](const PropertyValue& value) { return value.property == property; };
-        if (std::any_of(values.begin(), values.end(), isRow)) {
-            QAccessibleValueChangeEvent event(
-                table->cellAt(visible, RecordItemModel::ValueColumn), index.data());
-            QAccessible::updateAccessibility(&event);
-        }
-        ++visible;
-    }
-}
-
-bool QtInspectorWidget::write(const std::vector<PropertyValue>& values) {
-    const bool isWritten = change([&] {
-        const container::model::Key key = *rows_->record();  // a copy: an observer may select another record
-        setValues(values, rows_->objects(), key);
-    });
-    if (isWritten) announce(values);
-    return isWritten;
-}
-
-bool QtInspectorWidget::change(const std::function<void()>& action) {
-    if (!rows_->isEditable()) {
-        say(rows_->text("These settings can no longer be changed."));
-        return false;
-    }
-    const QPointer<QtInspectorWidget> self(this);
-    // An observer may run an event loop, and the engineer another gesture in that.
-    const bool wasChanging = std::exchange(changing_, true);
-    const int seenBefore = std::exchange(changesSeen_, 0);
-    QString problem;
-    try {
-        action();
-    } catch (const std::exception& exception) {
-        problem = QString::fromUtf8(exception.what());
-    }
-    if (!self) return false;
-    changing_ = wasChanging;
-    const int seen = std::exchange(changesSeen_, changesSeen_ + seenBefore);
-    if (!problem.isEmpty()) {
-        say(rows_->text("Not changed: %1").arg(problem));
-        return false;
-    }
-    if (seen > 1) undo_.clear();  // an observer went on changing: our steps no longer fit
-    return seen <= 1;
-}
-
-void QtInspectorWidget::onRecordChanged() {
-    if (message_) message_->hide();
-    if (changing_)
-        ++changesSeen_;
-    else
-        undo_.clear();
-    emit settingsChanged();
-}
-
-void QtInspectorWidget::undo() {
-    const auto values = static_cast<const Step&>(*undo_.command(undo_.index() - 1)).before;
-    if (write(values)) undo_.undo();
-}
-
-void QtInspectorWidget::redo() {
-    const auto values = static_cast<const Step&>(*undo_.command(undo_.index())).after;
-    if (write(values)) undo_.redo();
+PropertyList QtInspectorWidget::shownChanged() const {
+    PropertyList result;
+    for (const auto& property : shownProperties())
+        if (rows_->current(*property) != defaultValue(*property)) result.push_back(property);
+    return result;
 }
 
 // ---- clipboard ----
 
 void QtInspectorWidget::copyRows() const {
-    QStringList lines;
-    for (const auto& property : selectedProperties())
-        lines << label(*properties_, *property) + '\t' +
-                     rows_->valueText(*property, rows_->current(*property));
-    if (!lines.isEmpty()) QApplication::clipboard()->setText(lines.join('\n') + '\n');
+    std::vector<CopiedRow> copied;
+    QString lines;
+    for (const auto& property : targets()) {
+        const QVariant value = rows_->current(*property);
+        copied.push_back({QString::fromUtf8(property->displayName), value});
+        lines += label(*properties_, *property) + '\t' + rows_->valueText(*property, value) + '\n';
+    }
+    if (!copied.empty()) QApplication::clipboard()->setMimeData(rowsForClipboard(copied, lines).release());
 }
 
 void QtInspectorWidget::copySettings() const {
-    QApplication::clipboard()->setText(host_.copySettings());
+    if (auto settings = host_.copySettings()) QApplication::clipboard()->setMimeData(settings.release());
 }
 
-void QtInspectorWidget::pasteSettings() {
-    const std::vector<PropertyValue> before = valuesOf(*rows_, *properties_);
-    const QString text = QApplication::clipboard()->text();
-    if (!change([&] { host_.pasteSettings(text); })) return;
-    auto step = stepBetween(before, valuesOf(*rows_, *properties_));
-    if (!step) return;
-    announce(step->after);
-    undo_.push(step.release());
+void QtInspectorWidget::paste() {
+    if (!editor_->mayEdit()) return;
+    const QMimeData* clipboard = QApplication::clipboard()->mimeData();
+    if (!clipboard) return;
+    if (const auto rows = rowsFromClipboard(*clipboard)) return pasteRows(*rows);
+    if (host_.readSettings) pasteSettings(*clipboard);
+}
+
+void QtInspectorWidget::pasteRows(const std::vector<CopiedRow>& rows) {
+    std::vector<PropertyValue> wanted;
+    QStringList rest;
+    const PropertyList shown = shownProperties();
+    for (const CopiedRow& row : rows) {
+        const auto hasLabel = [&](const auto& property) { return row.label == property->displayName; };
+        const auto found = std::find_if(shown.begin(), shown.end(), hasLabel);
+        if (found != shown.end())
+            wanted.push_back({*found, row.value});
+        else
+            rest << rows_->text(row.label.toUtf8());
+    }
+    const QPointer<QtInspectorWidget> self(this);
+    editor_->set(wanted);
+    if (self && !rest.isEmpty()) say(rows_->text("Not pasted: %1").arg(rest.join(", ")));
+}
+
+// What the filter hides stays.
+void QtInspectorWidget::pasteSettings(const QMimeData& clipboard) {
+    std::vector<PropertyValue> wanted;
+    try {
+        wanted = host_.readSettings(clipboard);
+    } catch (const std::exception& problem) {
+        return say(rows_->text("Not changed: %1").arg(QString::fromUtf8(problem.what())));
+    }
+    QStringList rest;
+    for (int row = 0; row < rows_->rowCount(); ++row) {
+        const auto property = rows_->property(rows_->index(row, 0));
+        if (!property || !view_->isRowHidden(row, {})) continue;
+        const auto hidden = [&](const PropertyValue& one) { return one.property == property; };
+        const auto found = std::find_if(wanted.begin(), wanted.end(), hidden);
+        if (found == wanted.end()) continue;
+        if (found->value != rows_->current(*property)) rest << label(*properties_, *property);
+        wanted.erase(found);
+    }
+    const QPointer<QtInspectorWidget> self(this);
+    editor_->load(wanted);
+    if (self && !rest.isEmpty())
+        say(rows_->text("Not changed, because the filter hides it: %1").arg(rest.join(", ")));
 }
 
 // ---- filter ----
 
 void QtInspectorWidget::showFilter() {
-    if (!filterBar_) {
-        filterBar_ = new QWidget(this);
-        query_ = new QLineEdit(filterBar_);
-        query_->setClearButtonEnabled(true);
-        query_->installEventFilter(this);
-        changedOnly_ = new QCheckBox(filterBar_);
-        auto* layout = new QHBoxLayout(filterBar_);
-        layout->setContentsMargins(0, 0, 0, 0);
-        layout->addWidget(query_);
-        layout->addWidget(changedOnly_);
-        static_cast<QVBoxLayout*>(this->layout())->insertWidget(0, filterBar_);
-        changedOnly_->installEventFilter(this);
-        QWidget* before = view_->previousInFocusChain();
-        while (before != view_ && before->focusPolicy() == Qt::NoFocus)
-            before = before->previousInFocusChain();
-        setTabOrder(before, query_);
-        setTabOrder(query_, changedOnly_);
-        connect(query_, &QLineEdit::textChanged, this, &QtInspectorWidget::filterRows);
-        connect(changedOnly_, &QCheckBox::toggled, this, &QtInspectorWidget::filterRows);
-        filterRows();
+    if (!filter_) {
+        filter_ = new FilterBar(this);
+        static_cast<QVBoxLayout*>(layout())->insertWidget(0, filter_);
+        filter_->placeBefore(view_);
+        connect(filter_, &FilterBar::queryChanged, this, &QtInspectorWidget::filterRows);
+        connect(filter_, &FilterBar::left, view_, [this] { view_->setFocus(); });
+        connect(filter_, &FilterBar::closed, view_, [this] { view_->setFocus(); });
+        updateTexts();
     }
-    filterBar_->show();
-    query_->setFocus(Qt::ShortcutFocusReason);
-    query_->selectAll();
-}
-
-void QtInspectorWidget::hideFilter() {
-    query_->clear();
-    changedOnly_->setChecked(false);
-    filterBar_->hide();
-    view_->setFocus(Qt::OtherFocusReason);
+    filter_->open();
 }
 
 // Only a new query, or new texts, hide and show rows: one that is set back to its default stays.
 void QtInspectorWidget::filterRows() {
-    if (filterBar_) {
-        query_->setPlaceholderText(rows_->text("Filter"));
-        query_->setAccessibleName(rows_->text("Filter"));
-        changedOnly_->setText(rows_->text("Changed only"));
-        const QString wanted = folded(query_->text());
-        int heading = -1;
-        for (int row = 0; row < rows_->rowCount(); ++row) {
-            const QModelIndex index = rows_->index(row, 0);
-            const bool isHeading = !rows_->property(index);
-            const bool found =
-                !isHeading &&
-                (!changedOnly_->isChecked() || index.data(RecordItemModel::ChangedRole).toBool()) &&
-                folded(index.data(RecordItemModel::SearchRole).toString()).contains(wanted);
-            view_->setRowHidden(row, {}, !found);
-            if (found && heading >= 0) view_->setRowHidden(heading, {}, false);
-            if (isHeading) heading = row;
-        }
-        view_->leaveHiddenRow();
+    if (!filter_) return;
+    int heading = -1;
+    for (int row = 0; row < rows_->rowCount(); ++row) {
+        const QModelIndex index = rows_->index(row, 0);
+        const bool isHeading = !rows_->property(index);
+        const bool found = !isHeading && filter_->finds(index.data(RecordItemModel::SearchRole).toString(),
+                                             index.data(RecordItemModel::ChangedRole).toBool());
+        view_->setRowHidden(row, {}, !found);
+        if (found && heading >= 0) view_->setRowHidden(heading, {}, false);
+        if (isHeading) heading = row;
     }
-    updatePlaceholder();
+    view_->leaveHiddenRow();
 }
 
-void QtInspectorWidget::updatePlaceholder() {
-    view_->setPlaceholder(rows_->rowCount() > 0 ? rows_->text("No option matches the filter.")
-                                                : rows_->text("No option applies."));
+// ---- what is seen and spoken ----
+
+void QtInspectorWidget::unhide(const std::vector<PropertyValue>& values) {
+    int heading = -1;
+    for (int row = 0; row < rows_->rowCount(); ++row) {
+        const auto property = rows_->property(rows_->index(row, 0));
+        if (!property) heading = row;
+        if (!concerns(values, property) || !view_->isRowHidden(row, {})) continue;
+        view_->setRowHidden(row, {}, false);
+        if (heading >= 0) view_->setRowHidden(heading, {}, false);
+    }
 }
 
-// ---- texts ----
+void QtInspectorWidget::reveal(const std::vector<PropertyValue>& values) {
+    int row = 0;
+    while (row < rows_->rowCount() &&
+           (view_->isRowHidden(row, {}) || !concerns(values, rows_->property(rows_->index(row, 0)))))
+        ++row;
+    if (row == rows_->rowCount()) return;
+    view_->layOutNow();
+    const QModelIndex first = rows_->index(row, RecordItemModel::ValueColumn);
+    auto* selection = view_->selectionModel();
+    const bool isCurrent = view_->currentIndex() == first;
+    if (!isCurrent && !selection->isRowSelected(row, {}))
+        view_->setCurrentIndex(first);
+    else
+        selection->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
+    view_->scrollTo(first);
+    if (isCurrent) announce(first);
+}
+
+// Qt does the same when another cell becomes the current one.
+void QtInspectorWidget::announce(const QModelIndex& current) {
+    if (!QAccessible::isActive() || !view_->hasFocus()) return;
+    auto* table = QAccessible::queryAccessibleInterface(view_)->tableInterface();
+    int visible = 0;  // index among the visible rows; hidden rows have no accessible cells
+    for (int row = 0; row < current.row(); ++row)
+        if (!view_->isRowHidden(row, {})) ++visible;
+    QAccessibleEvent event(table->cellAt(visible, current.column()), QAccessible::Focus);
+    QAccessible::updateAccessibility(&event);
+}
 
 void QtInspectorWidget::say(const QString& text) {
     if (!message_) {
@@ -444,22 +442,17 @@ void QtInspectorWidget::say(const QString& text) {
         message_->setTextInteractionFlags(Qt::TextSelectableByMouse);
         message_->setMargin(4);
         layout()->addWidget(message_);
+        message_->hide();
     }
-    message_->setText(text);
+    message_->setText(message_->isHidden() ? text : message_->text() + '\n' + text);
     message_->show();
+    if (!QAccessible::isActive() || !view_->hasFocus()) return;
+    QAccessibleEvent event(message_, QAccessible::Focus);  // the only event of a label that is spoken
+    QAccessible::updateAccessibility(&event);
 }
 
-void QtInspectorWidget::changeEvent(QEvent* event) {
-    QWidget::changeEvent(event);
-    if (event->type() != QEvent::LanguageChange) return;
-    if (host_.retranslate) host_.retranslate();
-    setAccessibleName(rows_->text("Output options"));
-    view_->setAccessibleName(accessibleName());
-    if (message_) message_->hide();  // its text is of the other language, as a menu's are
-    for (auto* menu : findChildren<QMenu*>(QString(), Qt::FindDirectChildrenOnly)) menu->close();
-    rows_->retranslate();
-    filterRows();
-    view_->measureAgain();
+void QtInspectorWidget::clearMessage() {
+    if (message_) message_->hide();
 }
 
 }  // namespace tiv::properties

@@ -3,20 +3,18 @@
 //     auto* inspector = new QtInspectorWidget(parent, properties, selection, model, editors, validators);
 //     inspector->setPropertyFilterFunction([](const std::string& key) { return key == "prop.full"; });
 //
-// An edit is in the record before the next event, and every change of the record, whoever made it, is
-// shown at once. What cannot be done is said below the table; nothing is thrown into the event loop.
-// The widget shares what it is given: it may outlive the owner of the record, or go first.
+// An edit is in the record before the next event, and every change of the record, whoever made it, is shown
+// at once; a hidden inspector is updated when it is shown. Errors are shown below the table; nothing is thrown
+// into the event loop. The widget shares what it is given: it may outlive the owner of the record, or go first.
 //
-//     click, Return, F2, Space, Alt+Down    opens the list of values      Delete    back to the default
-//     Ctrl+F    filter     Ctrl+Z, Ctrl+Y    undo, redo (the host's when there is nothing to undo here)
-//     Ctrl+C    the selected rows as text    Ctrl+V    the settings in the clipboard
+// commands() lists what the engineer can do and by which keys; commands.h says which keys stay the host's.
 #pragma once
 
 #include "properties/definitions/property.h"
 #include "properties/definitions/selection_manager.h"
+#include "properties/qt/src/commands.h"
+#include "properties/qt/src/record_editor.h"
 
-#include <QPointer>
-#include <QUndoStack>
 #include <QWidget>
 
 #include <functional>
@@ -24,24 +22,28 @@
 #include <string>
 #include <vector>
 
-class QCheckBox;
 class QLabel;
-class QLineEdit;
 class QMenu;
+class QMimeData;
+class QModelIndex;
 
 namespace tiv::properties {
 
 class DefaultEditorFactory;
-class DefaultValidatorFactory;
+class FilterBar;
 class PropertyView;
 class RecordItemModel;
 
 // What an inspector asks of the owner of the record. Every function may be empty.
 struct InspectorHost {
-    std::function<bool()> isEditable;       // empty: always
-    std::function<void()> retranslate;      // the language has changed: give the properties their texts
-    std::function<QString()> copySettings;  // all settings as one text
-    std::function<void(const QString&)> pasteSettings;  // throws std::exception when it cannot read the text
+    std::function<bool()> isEditable;   // empty: always
+    std::function<void()> retranslate;  // the language has changed: give the properties their texts
+    std::function<QString()> name;      // of the table, for screen readers
+    std::function<QString()> setTo;     // title of the menu of values; empty: there is no such menu
+    std::function<QString(const Property&)> keyword;           // the property's word in the user's input text
+    std::function<std::unique_ptr<QMimeData>()> copySettings;  // all settings; null while there are none
+    // The values of settings in the clipboard. Throws std::exception when it holds none for this record.
+    std::function<std::vector<PropertyValue>(const QMimeData&)> readSettings;
 };
 
 class QtInspectorWidget : public QWidget {
@@ -61,52 +63,48 @@ class QtInspectorWidget : public QWidget {
 
  protected:
     void changeEvent(QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-    void onResetRequested(const QModelIndex& row);
-    void onEntered(const QModelIndex& index, const QVariant& value);
     void onRecordChanged();
-    bool onKey(const QKeyEvent& event, bool onlyAsk);
-    bool onFilterKey(const QKeyEvent& event, bool onlyAsk);
+    void onRowsReset();
+    void onEntered(const QModelIndex& index, const QVariant& value);
+    void onResetRequested(const QModelIndex& index);
+
+    std::vector<Command> commands();
     void showMenu(const QPoint& position);
-    void addLevelMenu(QMenu& menu, const std::vector<std::shared_ptr<const Property>>& targets);
+    void addValueMenu(QMenu& menu);
 
-    std::vector<std::shared_ptr<const Property>> selectedProperties() const;
-    std::vector<std::shared_ptr<const Property>> shownChanged() const;
+    PropertyList targets() const;
+    PropertyList shownProperties() const;
+    PropertyList shownChanged() const;
 
-    // One gesture: sets the value of all targets that offer it, in one transaction and one undo step.
-    void choose(const std::vector<std::shared_ptr<const Property>>& targets, const QVariant& value);
-    void reset(const std::vector<std::shared_ptr<const Property>>& targets);
-    void apply(const std::vector<PropertyValue>& wanted);
-    bool write(const std::vector<PropertyValue>& values);
-    // Runs something that changes the record. False if it failed, or if `this` is gone.
-    bool change(const std::function<void()>& action);
-    void announce(const std::vector<PropertyValue>& values);
-    void undo();
-    void redo();
     void copyRows() const;
     void copySettings() const;
-    void pasteSettings();
+    void paste();
+    void pasteRows(const std::vector<struct CopiedRow>& rows);
+    void pasteSettings(const QMimeData& clipboard);
 
     void showFilter();
-    void hideFilter();
     void filterRows();
-    void updatePlaceholder();
-    void say(const QString& text);
+    void updateTexts();
 
+    // Makes the first of these rows the current one, in view. A screen reader reads it out.
+    void reveal(const std::vector<PropertyValue>& values);
+    void unhide(const std::vector<PropertyValue>& values);
+    void announce(const QModelIndex& current);
+    void say(const QString& text);
+    void clearMessage();
+
+    std::shared_ptr<Properties> properties_;
+    InspectorHost host_;
+    RecordEditor* editor_;
     RecordItemModel* rows_;
     PropertyView* view_;
-    InspectorHost host_;
-    std::shared_ptr<const DefaultValidatorFactory> validators_;
-    std::shared_ptr<Properties> properties_;
-    QUndoStack undo_;
-    QWidget* filterBar_ = nullptr;  // these four are made when they are first needed
-    QLineEdit* query_ = nullptr;
-    QCheckBox* changedOnly_ = nullptr;
+    FilterBar* filter_ = nullptr;  // these two are made when they are first needed
     QLabel* message_ = nullptr;
-    bool changing_ = false;  // a change of ours is under way
-    int changesSeen_ = 0;    // by the record since it began
+    bool isStale_ = false;  // the record has changed while the inspector was hidden
 };
 
 }  // namespace tiv::properties

@@ -34,23 +34,27 @@ QVariant bold() {
 
 }  // namespace
 
-RecordItemModel::RecordItemModel(std::shared_ptr<Properties> properties,
-    std::shared_ptr<container::model::Model> model, std::shared_ptr<DataModelSignals::Selection> selection,
-    std::function<bool()> editable, QObject* parent)
+RecordItemModel::RecordItemModel(std::shared_ptr<const Properties> properties,
+    std::shared_ptr<DataModelSignals> record, std::function<bool()> isEditable,
+    std::function<QString(const Property&)> keyword, QObject* parent)
     : QAbstractTableModel(parent),
       properties_(std::move(properties)),
-      signals_(std::move(model), std::move(selection)),
-      editable_(std::move(editable)) {
-    connect(&signals_, &DataModelSignals::recordChanged, this, &RecordItemModel::updateChanged);
-    connect(&signals_, &DataModelSignals::recordChanged, this, &RecordItemModel::recordChanged);
-    show({});
+      record_(std::move(record)),
+      isEditable_(std::move(isEditable)),
+      keyword_(keyword ? std::move(keyword) : [](const Property&) { return QString(); }) {
+    rebuild();
 }
 
 void RecordItemModel::show(std::function<bool(const std::string&)> shows) {
-    if (!shows) shows = [](const std::string&) { return true; };
+    shows_ = std::move(shows);
+    rebuild();
+}
+
+void RecordItemModel::rebuild() {
+    hasRecord_ = record_->key() != nullptr;
     std::vector<std::shared_ptr<const Property>> shown;
     for (const auto& property : properties_->list)
-        if (shows(property->key)) shown.push_back(property);
+        if (hasRecord_ && (!shows_ || shows_(property->key))) shown.push_back(property);
     std::stable_sort(
         shown.begin(), shown.end(), [](const auto& a, const auto& b) { return a->weight < b->weight; });
 
@@ -73,7 +77,8 @@ void RecordItemModel::retranslate() {
     updateAll();
 }
 
-void RecordItemModel::updateChanged() {
+void RecordItemModel::update() {
+    if (isOutdated()) return rebuild();
     for (int row = 0; row < rowCount(); ++row) {
         ShownRow& shown = rows_[static_cast<std::size_t>(row)];
         QVariant value = shown.heading ? QVariant() : current(*shown.property);
@@ -105,14 +110,6 @@ int RecordItemModel::columnCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : ColumnCount;
 }
 
-QString RecordItemModel::text(const char* source) const {
-    return properties_->xlator ? properties_->xlator->text("inspector", source) : QString::fromUtf8(source);
-}
-
-QVariant RecordItemModel::current(const Property& property) const {
-    return record() ? value(property, objects(), *record()) : QVariant();
-}
-
 QString RecordItemModel::valueText(const Property& property, const QVariant& value) const {
     if (const NamedValue* entry = entryOf(property, path::editorEntries, value)) return entry->text;
     if (isOffered(property, value)) return value.toString();
@@ -124,8 +121,8 @@ QString RecordItemModel::valueText(const Property& property, const QVariant& val
 QString RecordItemModel::tooltipText(const Property& property, const QVariant& value) const {
     QStringList lines{label(*properties_, property)};
     if (property.tooltip) lines << tooltip(*properties_, property);
-    if (const auto* keyword = property.configuration.get<QString>(path::inspectorKeyword))
-        lines << text("Keyword: %1").arg(*keyword);
+    if (const QString keyword = keyword_(property); !keyword.isEmpty())
+        lines << text("Keyword: %1").arg(keyword);
     lines << text("Default: %1").arg(valueText(property, defaultValue(property)));
     if (!value.isValid()) return lines.join('\n');
     if (const NamedValue* explained = entryOf(property, path::editorExplanations, value))
@@ -169,14 +166,12 @@ QVariant RecordItemModel::cell(const QModelIndex& index, const Property& propert
                 .arg(valueText(property, defaultValue(property)));
         case ChangedRole:
             return changed;
-        case SearchRole: {
-            const auto* keyword = property.configuration.get<QString>(path::inspectorKeyword);
+        case SearchRole:
             return QStringList{label(*properties_, property),
                 QString::fromStdString(property.key),
-                keyword ? *keyword : QString(),
+                keyword_(property),
                 value.isValid() ? valueText(property, value) : QString()}
                 .join('\n');
-        }
         default:
             return {};
     }

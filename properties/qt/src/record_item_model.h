@@ -23,40 +23,36 @@ class RecordItemModel : public QAbstractTableModel {
         SearchRole,                  // all that a filter finds the row by
     };
 
-    // `editable` is asked before every edit.
-    RecordItemModel(std::shared_ptr<Properties> properties, std::shared_ptr<container::model::Model> model,
-        std::shared_ptr<DataModelSignals::Selection> selection, std::function<bool()> editable,
-        QObject* parent);
+    // `isEditable` is asked before every edit, `keyword` for the word of a property in the user's input text
+    // (empty: it has none).
+    RecordItemModel(std::shared_ptr<const Properties> properties, std::shared_ptr<DataModelSignals> record,
+        std::function<bool()> isEditable, std::function<QString(const Property&)> keyword, QObject* parent);
 
     // Shows the properties whose keys `shows` accepts, all for an empty function: by weight and then in order
     // of the set, under the headings of their categories.
     void show(std::function<bool(const std::string&)> shows);
+    // The record has changed. Without a record there are no rows.
+    void update();
+    // Whether there is a record where there was none at the last update, or the other way round.
+    bool isOutdated() const { return hasRecord_ != (record_->key() != nullptr); }
     // The texts have changed their language.
     void retranslate();
 
     // Null for a heading.
     std::shared_ptr<const Property> property(const QModelIndex& index) const;
-    // Whether there is a record, and it may be edited.
-    bool isEditable() const { return record() && editable_(); }
-    // The key of the shown record; null while there is none.
-    const container::model::Key* record() const { return signals_.record(); }
-    container::model::Model& objects() const { return signals_.model(); }
+    bool isEditable() const { return isEditable_(); }
     // A property's value in the shown record; invalid while there is none.
-    QVariant current(const Property& property) const;
+    QVariant current(const Property& property) const { return record_->value(property); }
     // A value as the engineer reads it.
     QString valueText(const Property& property, const QVariant& value) const;
     // A text of the inspector itself in the engineer's language.
-    QString text(const char* source) const;
+    QString text(const char* source) const { return inspectorText(*properties_, source); }
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
-
- signals:
-    // Somebody has changed the shown record, or another one is shown.
-    void recordChanged();
 
  private:
     struct ShownRow {
@@ -65,15 +61,18 @@ class RecordItemModel : public QAbstractTableModel {
         QVariant told = {};  // the value that the view last heard of: only tells whether it has to hear again
     };
 
-    void updateChanged();
+    void rebuild();
     void updateAll();
     QVariant cell(const QModelIndex& index, const Property& property, int role) const;
     QString tooltipText(const Property& property, const QVariant& value) const;
 
-    std::shared_ptr<Properties> properties_;
-    DataModelSignals signals_;
-    std::function<bool()> editable_;
+    std::shared_ptr<const Properties> properties_;
+    std::shared_ptr<DataModelSignals> record_;
+    std::function<bool()> isEditable_;
+    std::function<QString(const Property&)> keyword_;
+    std::function<bool(const std::string&)> shows_;
     std::vector<ShownRow> rows_;
+    bool hasRecord_ = false;
 };
 
 }  // namespace tiv::properties

@@ -1,0 +1,71 @@
+#!/usr/bin/env bash
+# run.sh FOLDER-OF-PROGRAMS: edits settings by keys with the screen reader Orca, prints what it speaks, and compares
+# that with what is expected. On a display, a bus and an accessibility registry of its own.
+set -euo pipefail
+here=$(realpath "$(dirname "${BASH_SOURCE[0]}")")
+if [ -z "${TIV_ORCA_SCRATCH-}" ]; then
+    TIV_ORCA_SCRATCH=$(mktemp -d)
+    export TIV_ORCA_SCRATCH HOME=$TIV_ORCA_SCRATCH XDG_RUNTIME_DIR=$TIV_ORCA_SCRATCH LC_ALL=C.UTF-8
+    trap 'rm -rf "$TIV_ORCA_SCRATCH"' EXIT
+    dbus-run-session -- "$0" "$@"
+    exit
+fi
+bin=$(realpath "$1") scratch=$TIV_ORCA_SCRATCH log=$TIV_ORCA_SCRATCH/orca.log
+children=()
+trap 'kill "${children[@]}" 2>/dev/null; wait' EXIT
+background() {
+    "$@" >>"$scratch/background.log" 2>&1 &
+    children+=($!)
+}
+
+Xvfb -displayfd 3 -screen 0 1024x768x24 3>"$scratch/display" 2>>"$scratch/background.log" &
+children+=($!)
+until [ -s "$scratch/display" ]; do sleep 0.1; done
+DISPLAY=:$(cat "$scratch/display")
+export DISPLAY QT_QPA_PLATFORM=xcb QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 NO_AT_BRIDGE=0
+background openbox
+background /usr/libexec/at-spi-bus-launcher --launch-immediately
+until gdbus call --session --dest org.a11y.Bus --object-path /org/a11y/bus --method org.a11y.Bus.GetAddress \
+    >/dev/null 2>&1; do sleep 0.1; done
+background orca --replace --debug-file="$log"
+until grep -qs 'activating script' "$log"; do sleep 0.2; done
+
+spoken() { # <first line of the log>
+    tail -n "+$1" "$log" | sed -nE "s/^.*SPEECH OUTPUT: '(.*)'[ {].*$/\1/p"
+}
+
+quiet() { # waits until Orca has no more to say
+    local before=-1 now
+    while now=$(wc -l <"$log") && [ "$now" != "$before" ]; do
+        before=$now
+        sleep 1.5
+    done
+}
+
+failures=0
+step() { # <expected> <key>...: keys of xdotool; "" for none
+    local expected=$1 from said
+    shift
+    from=$(($(wc -l <"$log") + 1))
+    [ $# = 0 ] || xdotool key --delay 200 "$@"
+    quiet
+    said=$(spoken "$from" | paste -sd '|')
+    if grep -qF -- "$expected" <<<"$said"; then
+        echo "ok      ${*:-(opens)}: $said"
+    else
+        echo "FAILED  ${*:-(opens)}: $said"
+        echo "        expected: $expected"
+        failures=$((failures + 1))
+    fi
+}
+
+"$bin/echotable" edit esk --settings "$scratch/settings.txt" --elements all 2>"$scratch/stderr" &
+children+=($!)
+xdotool search --sync --onlyvisible --name settings.txt windowfocus >/dev/null
+# shellcheck source=tests/orca/steps.sh
+. "$here/steps.sh"
+if grep -v keyEventError "$scratch/stderr"; then # which Qt prints while Orca is slow
+    echo "FAILED  the program wrote the lines above to stderr"
+    failures=$((failures + 1))
+fi
+[ "$failures" = 0 ]

@@ -400,5 +400,9 @@
         <source>Copy</source>
         <translation>Kopieren</translation>
     </message>
+    <message>
+        <source>Add</source>
+        <translation>Neu</translation>
+    </message>
 </context>
 </TS>

@@ -80,6 +80,9 @@ MainWindow::MainWindow()
     ui_->message->setForegroundRole(QPalette::ToolTipText);
     ui_->preview->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     ui_->keywordLanguage->setCurrentIndex(Languages::current().language() == QLocale::German ? 0 : 1);
+    for (QWidget* widget :
+        std::initializer_list<QWidget*>{ui_->addButton, ui_->heading, ui_->keywordLanguage})
+        widget->setMinimumHeight(ui_->keywordLanguage->sizeHint().height());  // the views begin at one height
     fillLanguageMenu();
     connectActions();
     restoreSettings();
@@ -132,7 +135,8 @@ void MainWindow::restoreSettings() {
     const QSettings settings;
     ui_->dark->setChecked(settings.value(darkKey).toBool());
     if (!restoreGeometry(settings.value(geometryKey).toByteArray()))
-        resize(QSize(1160, 560).boundedTo(QGuiApplication::primaryScreen()->availableSize()));
+        resize((QSize(75, 36) * fontMetrics().height())
+                   .boundedTo(QGuiApplication::primaryScreen()->availableSize()));
     if (!ui_->panels->restoreState(settings.value(panelsKey).toByteArray()))
         ui_->panels->setSizes({210, 490, 460});
 }

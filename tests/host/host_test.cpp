@@ -22,8 +22,8 @@ class Host : public testing::Test {
         QCoreApplication::setOrganizationName("tests");
         QSettings::setDefaultFormat(QSettings::IniFormat);
         QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder.path());
-        QObject::connect(&look_, &QTimer::timeout, [this] { answerDialog(); });
-        look_.start(1);
+        QObject::connect(&look, &QTimer::timeout, [this] { answerDialog(); });
+        look.start(1);
     }
 
     void openWindow() {
@@ -46,7 +46,11 @@ class Host : public testing::Test {
         chooseAbove("English keywords");
     }
 
-    // Dialogs are answered in the order in which they open.
+    // The answers to the next dialogs, in the order in which they open.
+    void expect(const QString& list) {
+        EXPECT_TRUE(answers.isEmpty()) << answers.join('|').toStdString();
+        answers = list.split(", ", Qt::SkipEmptyParts);
+    }
     void answerDialog() {
         QWidget* dialog = QApplication::activeModalWidget();
         if (!dialog) return;
@@ -61,15 +65,14 @@ class Host : public testing::Test {
             files->selectFile(file(answer));
             return void(QMetaObject::invokeMethod(files, "accept"));
         }
-        if (auto* name = dialog->findChild<QLineEdit*>("name")) name->setText(answer.section(" = ", 0, 0));
+        if (auto* name = dialog->findChild<QLineEdit*>("name")) name->setText(answer.section('/', 0, 0));
         if (auto* program = dialog->findChild<QComboBox*>())
-            program->setCurrentIndex(answer.section(" = ", 1).toInt());
+            program->setCurrentIndex(answer.section('/', 1).toInt());
         const auto counts = dialog->findChildren<QSpinBox*>();
         for (int i = 0; i < counts.size(); ++i) counts[i]->setValue(answer.section(' ', i, i).toInt());
-        const bool refused =
-            !dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->isEnabled();
-        if (refused) said << "refused";
-        press(dialog, refused ? "Cancel" : "OK");
+        const auto* ok = dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
+        if (!ok->isEnabled()) said << "refused";
+        press(dialog, ok->isEnabled() ? "OK" : "Cancel");
     }
     static void press(QWidget* dialog, const QString& text) {
         for (auto* button : dialog->findChildren<QAbstractButton*>())
@@ -99,6 +102,7 @@ class Host : public testing::Test {
         QDropEvent drop({9, 99}, Qt::CopyAction, &data, Qt::LeftButton, {});
         QApplication::sendEvent(window.get(), &drop);
     }
+    void select(int row) const { tasks()->setCurrentItem(tasks()->topLevelItem(row)); }
     QTreeWidget* tasks() const { return window->findChild<QTreeWidget*>(); }
     QString names() const {
         QStringList result;
@@ -145,18 +149,14 @@ class Host : public testing::Test {
     const QString path = file("Haus \u00e4.tiv");
     std::unique_ptr<MainWindow> window;
     QStringList answers, said;
-
- private:
-    QTimer look_;
+    QTimer look;
 };
 
 TEST_F(Host, KeepsToItsSessions) {
-    std::shared_ptr<sqlite3> other;
-    const auto lock = [&] {
-        sqlite3* connection = nullptr;
-        sqlite3_open(path.toUtf8().constData(), &connection);
-        other = {connection, &sqlite3_close};
-        sqlite3_exec(connection, "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr);
+    sqlite3* other = nullptr;
+    const auto lock = [&](const Words&) {
+        sqlite3_open(path.toUtf8().constData(), &other);
+        sqlite3_exec(other, "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr);
     };
     const auto store = [&](const Words& w) {
         const int database = dbo::openProject(path.toStdString());
@@ -167,35 +167,32 @@ TEST_F(Host, KeepsToItsSessions) {
             dbo::storeTask(database, {w.label.toStdString(), program.toInt(), settings.toStdString()});
         dbo::closeProject(database);
     };
-    const auto look = [](const Words&) {
-        return QApplication::style()->objectName() + ' ' + QApplication::palette().window().color().name();
-    };
     const Does does{
         {"project", [&](const Words&) { makeProject(); }},
         {"restart", [&](const Words&) { openWindow(); }},
-        {"open", [&](const Words& w) { window->openProject(file(w.all)); }},
+        {"open", [&](const Words& w) { expect(w.value), window->openProject(file(w.label)); }},
         {"drop", [&](const Words& w) { drop(w.all); }},
-        {"select", [&](const Words& w) { tasks()->setCurrentItem(tasks()->topLevelItem(w.all.toInt())); }},
+        {"select", [&](const Words& w) { expect(w.value), select(w.label.toInt()); }},
         {"change", [&](const Words& w) { inspector().choose(w.label, w.value); }},
-        {"answer", [&](const Words& w) { answers << w.all; }},
-        {"do", [&](const Words& w) { trigger(w.all); }},
+        {"do", [&](const Words& w) { expect(w.value), trigger(w.label); }},
         {"defaults", [&](const Words&) { window->findChild<QPushButton*>("useDefaults")->click(); }},
         {"undo", [&](const Words&) { inspector().key(Qt::Key_Z, Qt::ControlModifier); }},
         {"lines-in", [&](const Words& w) { chooseAbove(w.all); }},
         {"store", store},
         {"remove", store},
         {"delete", [&](const Words&) { EXPECT_TRUE(QFile::remove(path)); }},
-        {"lock", [&](const Words&) { lock(); }},
-        {"unlock", [&](const Words&) { other.reset(); }},
+        {"lock", lock},
+        {"unlock", [&](const Words&) { sqlite3_close(other); }},
         {"resize", [&](const Words& w) { window->resize(w.all.toInt(), 333); }},
-        {"close", [&](const Words&) { window->close(); }},
+        {"close", [&](const Words& w) { expect(w.all), window->close(); }},
     };
     const Sees sees{
         {"lines", [&](const Words&) { return window->findChild<QPlainTextEdit*>()->toPlainText(); }},
         {"copied", [&](const Words&) { return QApplication::clipboard()->text(); }},
         {"title", [&](const Words&) { return title(); }},
         {"width", [&](const Words&) { return QString::number(window->width()); }},
-        {"look", look},
+        {"style", [&](const Words&) { return QApplication::style()->objectName(); }},
+        {"colour", [&](const Words&) { return window->palette().window().color().name(); }},
         {"stops", [&](const Words&) { return stops(); }},
         {"tasks", [&](const Words&) { return names(); }},
         {"heading", [&](const Words&) { return tasks()->headerItem()->text(0); }},
@@ -209,7 +206,7 @@ TEST_F(Host, KeepsToItsSessions) {
         {"elements", [&](const Words& w) { return w.label + ": " + stored(file(w.label)); }},
     };
     for (const Session& session : readSessions(TIV_SESSIONS)) play(session, does, sees);
-    EXPECT_TRUE(answers.isEmpty());
+    expect({});
     window.reset();  // reports go again where they went before
     const tiv::echo::EchoData unknown(static_cast<tiv::echo::EchoData::ProgrammTypes>(14), 0);
     EXPECT_EQ(takeReports().size(), 6U) << "one of the type, five of the database";

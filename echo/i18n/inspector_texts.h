@@ -23,7 +23,8 @@ const char* const inspectorTexts[] = {
     QT_TRANSLATE_NOOP("EchoData", "Reset all shown (%1)"),
     QT_TRANSLATE_NOOP("EchoData", "Reset to default"),
     QT_TRANSLATE_NOOP("EchoData", "Select all"),
-    QT_TRANSLATE_NOOP("EchoData", "The stored value %1 is not offered. It stays until another one is chosen."),
+    QT_TRANSLATE_NOOP(
+        "EchoData", "The stored value %1 is not offered. It stays until another one is chosen."),
     QT_TRANSLATE_NOOP("EchoData", "These settings can no longer be changed."),
     QT_TRANSLATE_NOOP("EchoData", "Undo"),
     QT_TRANSLATE_NOOP("EchoData", "Value"),

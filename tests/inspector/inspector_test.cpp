@@ -12,8 +12,11 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QEvent>
+#include <QHeaderView>
+#include <QImage>
 #include <QLineEdit>
 #include <QLocale>
+#include <QProxyStyle>
 #include <QScreen>
 #include <QScrollBar>
 #include <QShortcut>
@@ -55,7 +58,6 @@ TEST(Inspector, ShowsTheApplicableOptionsInOrderWithExactlyTheirLevels) {
             const std::unique_ptr<QWidget> widget(echo.createPropertyInspector(nullptr));
             Driver driver(widget.get());
             const QRect screen = widget->screen()->availableGeometry();
-            widget->move(0, screen.bottom() - widget->height());  // lists open upwards, too
             widget->setFont(QFont("DejaVu Serif", 8));
             widget->setLayoutDirection(kinds == everyKind ? Qt::RightToLeft : Qt::LeftToRight);
             QStringList labels;
@@ -66,11 +68,14 @@ TEST(Inspector, ShowsTheApplicableOptionsInOrderWithExactlyTheirLevels) {
                     "Extensive output", "4", "5", "6", "7"};
                 QStringList offered;
                 for (const QChar digit : o.offered) offered << texts[digit.digitValue()];
+                const QRect cell =
+                    driver.cell(o.label, 1);  // every other one at the lower edge of the screen
+                const int bottom = driver.view->viewport()->mapTo(widget.get(), cell.bottomLeft()).y();
+                widget->move(0, labels.size() % 2 ? screen.bottom() - bottom - 1 : 0);
                 driver.click(o.label);
                 EXPECT_EQ(driver.offered(), offered) << o.label.toStdString();
                 EXPECT_EQ(driver.marked(), driver.row(o.label)) << o.label.toStdString();
                 const QRect list = driver.list()->window()->frameGeometry();
-                const QRect cell = driver.cell(o.label, 1);
                 EXPECT_EQ(driver.list()->font().family(), "DejaVu Serif");
                 EXPECT_EQ(driver.list()->layoutDirection(), widget->layoutDirection());
                 EXPECT_TRUE(screen.contains(list)) << o.label.toStdString();
@@ -114,6 +119,8 @@ TEST(Inspector, ChangesNothingByWheelOrNavigation) {
         driver.view->setFocus();
         QTest::keyClick(driver.view, keys[random() % std::size(keys)]);
         EXPECT_EQ(driver.view->currentIndex().column(), 1);
+        const QRect current = driver.view->visualRect(driver.view->currentIndex());
+        EXPECT_TRUE(driver.view->viewport()->rect().contains(current.center()));
     }
     EXPECT_EQ(host.echo->getXMLData(), before);
 }
@@ -253,34 +260,200 @@ TEST(Inspector, ShowsNothingOfAnotherRecord) {
     EXPECT_EQ(driver.rows().size(), 10);
 }
 
-TEST(Inspector, CutsNoLabelAt460Pixels) {
+// The room for the text of a cell; that of a value ends before its arrow.
+int textWidth(const Driver& driver, const QString& label, int column) {
+    const int arrow = column == 1 ? driver.view->fontMetrics().height() + 6 : 0;
+    return driver.cell(label, column).width() - 6 - arrow;
+}
+
+TEST(Inspector, CutsNothingAt460Pixels) {
     const QFont before = QApplication::font();
-    for (const int points : {9})
+    for (const int points : {9, 12, 24})
         for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft})
             for (const auto type : {EchoData::QSX_ELPL, EchoData::ESK, EchoData::MEXORA, EchoData::PLAX2}) {
-                speak(direction == Qt::LeftToRight);  // German has the longer words
+                const bool german = direction == Qt::LeftToRight;  // it has the longer words
+                SCOPED_TRACE(points * (german ? 1 : -1));
+                speak(german);
                 QFont font = before;
                 font.setPointSize(points);
                 QApplication::setFont(font);
                 QApplication::setLayoutDirection(direction);
                 EchoData echo(type, everyElement());
                 const std::unique_ptr<QWidget> widget(echo.createPropertyInspector(nullptr));
+                widget->setMinimumSize(1, 1);
                 Driver driver(widget.get());
                 widget->resize(460, 400);
                 settle();
                 font.setBold(true);
+                const auto fits = [&](const QString& label, int column, const QString& text, int wrap) {
+                    const int width = textWidth(driver, label, column);
+                    const QRect needed =
+                        QFontMetrics(font).boundingRect(QRect(0, 0, width, 9999), wrap, text);
+                    EXPECT_LE(needed.width(), width) << text.toStdString();
+                    EXPECT_LE(needed.height(), driver.cell(label, column).height()) << text.toStdString();
+                };
+                const bool breaks = points == 24 || (german && points == 12);
                 for (const QString& row : driver.rows()) {
                     const QString label = row.section('=', 0, 0);
-                    const QRect cell = driver.cell(label, 0);
-                    const QRect needed = QFontMetrics(font).boundingRect(
-                        QRect(0, 0, cell.width() - 6, 9999), Qt::TextWordWrap, label);
-                    EXPECT_LE(needed.width(), cell.width() - 6) << label.toStdString() << ' ' << points;
-                    EXPECT_LE(needed.height(), cell.height()) << label.toStdString() << ' ' << points;
+                    fits(label, 0, label, breaks ? Qt::TextWrapAnywhere : Qt::TextWordWrap);
+                    fits(label, 1, row.section('=', 1), Qt::TextWordWrap);
                 }
+                EXPECT_EQ(driver.view->horizontalScrollBar()->maximum() > 0, german && points == 24);
             }
     speak(false);
     QApplication::setLayoutDirection(Qt::LeftToRight);
     QApplication::setFont(before);
+}
+
+TEST(Inspector, HasRoomForEveryTextInOneLineAtItsHint) {
+    const QFont before = QApplication::font();
+    Host host(EchoData::PLAX2, json(R"("full":99)"));
+    Driver& driver = *host.driver;
+    QFont font = before;
+    const auto expectRoom = [&] {
+        host.window.resize(host.window.sizeHint());
+        settle();
+        font.setBold(true);
+        const QFontMetrics metrics(font);
+        for (const QString& row : driver.rows()) {
+            const QString label = row.section('=', 0, 0);
+            EXPECT_GE(textWidth(driver, label, 0), metrics.horizontalAdvance(label)) << label.toStdString();
+            EXPECT_LT(driver.cell(label, 1).height(), 2 * metrics.height());
+            driver.click(label);
+            QStringList texts = driver.offered();
+            texts << row.section('=', 1).remove('*');
+            for (const QString& text : texts)
+                EXPECT_GE(textWidth(driver, label, 1), metrics.horizontalAdvance(text)) << text.toStdString();
+            driver.key(Qt::Key_Escape);
+        }
+        EXPECT_EQ(driver.view->verticalScrollBar()->maximum(), 0);
+        EXPECT_LT(driver.widget->sizeHint().width(), 2 * driver.view->header()->length());
+    };
+    expectRoom();
+    font.setPointSize(14);
+    driver.widget->setFont(font);
+    expectRoom();
+    speak(true);
+    settle();
+    expectRoom();
+    speak(false);
+}
+
+TEST(Inspector, MovesItsDividerBetweenTheLeastWidthsOfBothSides) {
+    Host host(EchoData::ESK);
+    Driver& driver = *host.driver;
+    QWidget* header = driver.view->header()->viewport();
+    const auto label = [&] { return driver.cell("Loads", 0).width(); };
+    const auto drag = [&](int to) {
+        const QPoint from(label(), 5);
+        QTest::mousePress(header, Qt::LeftButton, {}, from);
+        QMouseEvent move(QEvent::MouseMove, QPointF(to, 5), header->mapToGlobal(QPoint(to, 5)), Qt::NoButton,
+            Qt::LeftButton, {});
+        QApplication::sendEvent(header, &move);
+        QTest::mouseRelease(header, Qt::LeftButton, {}, QPoint(to, 5));
+        settle();
+        EXPECT_EQ(driver.cell("Loads", 2).right() + 1, driver.view->viewport()->width()) << to;
+    };
+    const int before = label();
+    drag(300);
+    EXPECT_NEAR(label(), 300, 3);
+    host.window.resize(940, 480);
+    settle();
+    EXPECT_NEAR(label(), 450, 20) << "the share of the labels stays";
+    QFont bold = driver.view->font();
+    bold.setBold(true);
+    drag(2000);
+    EXPECT_GE(textWidth(driver, "Loads", 1), QFontMetrics(bold).horizontalAdvance("Extensive"));
+    EXPECT_GT(label(), 700);
+    drag(1);
+    EXPECT_GE(textWidth(driver, "Loads", 0), QFontMetrics(bold).horizontalAdvance("Displacements"));
+    EXPECT_LT(label(), 200);
+    QTest::mouseDClick(header, Qt::LeftButton, {}, QPoint(label(), 5));
+    settle();
+    EXPECT_EQ(label(), before);
+}
+
+// Makes selected rows pale while it draws, as the native style of Windows does.
+struct PaleStyle : public QProxyStyle {
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+        const QWidget* widget) const override {
+        if (element != CE_ItemViewItem) return QProxyStyle::drawControl(element, option, painter, widget);
+        auto cell = *qstyleoption_cast<const QStyleOptionViewItem*>(option);
+        cell.palette.setColor(QPalette::Highlight, QColor("#cde8ff"));
+        cell.palette.setColor(QPalette::HighlightedText, QColor("#202060"));
+        QProxyStyle::drawControl(element, &cell, painter, widget);
+    }
+};
+
+int distance(QRgb a, QRgb b) {
+    return std::abs(qRed(a) - qRed(b)) + std::abs(qGreen(a) - qGreen(b)) + std::abs(qBlue(a) - qBlue(b));
+}
+
+TEST(Inspector, DrawsTextsAndSignsInTheColoursOfTheStyle) {
+    PaleStyle pale;
+    struct Case {
+        QStyle* style;
+        const char *sheet, *selected, *other;
+    };
+    const Case cases[] = {{&pale, "", "#202060", "#000000"},
+        {nullptr, "QTreeView::item{color:#008000} QTreeView::item:selected{color:#800000;background:#fff0c0}",
+            "#800000", "#008000"}};
+    for (const Case& one : cases) {
+        Host host(EchoData::ESK, json(R"("load":3,"lsum":3)"));
+        Driver& driver = *host.driver;
+        driver.widget->setFont(QFont("DejaVu Sans", 20));
+        if (one.style) driver.view->setStyle(one.style);
+        driver.view->setStyleSheet(one.sheet);
+        driver.click("Loads", 0);
+        const auto expectColour = [&](const QString& label, const char* colour) {
+            for (const int column : {0, 1, 2}) {
+                QRect cell = driver.cell(label, column);
+                if (column == 1) cell.setWidth(textWidth(driver, label, 1));  // without the arrow
+                const QImage image = driver.view->viewport()->grab(cell).toImage();
+                int nearest = 999;
+                for (int x = 3; x < image.width() - 3; ++x)
+                    for (int y = 3; y < image.height() - 3; ++y)
+                        nearest = std::min(nearest, distance(image.pixel(x, y), QColor(colour).rgb()));
+                EXPECT_LT(nearest, 60) << label.toStdString() << column << colour;
+            }
+        };
+        expectColour("Loads", one.selected);
+        expectColour("Sum of loads", one.other);
+    }
+}
+
+TEST(Inspector, PaintsWhateverChanges) {
+    Host host(EchoData::ESK);
+    Driver& driver = *host.driver;
+    QWidget& table = *driver.view->viewport();
+    QImage last;
+    const auto expectPainted = [&](const char* after) {
+        settle();
+        const QPoint at = table.mapTo(&host.window, QPoint());
+        const QImage seen =
+            host.window.screen()->grabWindow(host.window.winId()).toImage().copy(QRect(at, table.size()));
+        EXPECT_EQ(seen, table.grab().toImage().convertToFormat(seen.format())) << after;
+        EXPECT_NE(seen, last) << after;
+        last = seen;
+    };
+    expectPainted("show");
+    host.echo->insertXMLData(json(R"("load":3)"));
+    expectPainted("a mark");
+    host.echo->insertXMLData(json(R"("load":2)"));
+    expectPainted("another value");
+    driver.click("Displacements", 0);
+    expectPainted("a selection");
+    QTest::mouseMove(&table, driver.cell("Group parameters", 1).center());
+    expectPainted("the arrow below the mouse");
+    driver.click("Loads", 2);
+    expectPainted("a reset");
+    driver.key(Qt::Key_F, Qt::ControlModifier);
+    driver.type("zzz");
+    expectPainted("the filter");
+    const QImage placeholder = table.grab().toImage();
+    QImage empty = placeholder;
+    empty.fill(placeholder.pixel(0, 0));
+    EXPECT_NE(placeholder, empty);
 }
 
 #if defined(__GLIBC__) && !defined(__SANITIZE_ADDRESS__)

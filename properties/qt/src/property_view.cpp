@@ -43,13 +43,20 @@ bool opensEditor(const QKeyEvent& event) {
     }
 }
 
-// Adds invisible places to break between the letters of the word.
-QString breakable(const QString& word) {
-    QString result = word;
+// The word with invisible places to break it into parts that fit into the width.
+QString broken(const QString& word, const QFontMetrics& metrics, int width) {
+    QString result;
     QTextBoundaryFinder letters(QTextBoundaryFinder::Grapheme, word);
-    letters.toEnd();
-    while (letters.toPreviousBoundary() > 0)
-        result.insert(letters.position(), QChar(0x200B));  // zero-width space
+    for (int from = 0, to = 0; to >= 0;) {
+        const auto next = static_cast<int>(letters.toNextBoundary());
+        const bool fits = next >= 0 && metrics.horizontalAdvance(word.mid(from, next - from)) <= width;
+        if (!fits && to > from) {
+            if (from > 0) result += QChar(0x200B);  // zero-width space
+            result += word.mid(from, to - from);
+            from = to;
+        }
+        to = next;
+    }
     return result;
 }
 
@@ -106,6 +113,7 @@ void PropertyView::setModel(QAbstractItemModel* model) {
 QStyleOptionViewItem PropertyView::boldOption(int column) const {
     QStyleOptionViewItem option;
     option.initFrom(this);
+    option.font = font();
     option.font.setBold(true);
     option.fontMetrics = QFontMetrics(option.font);
     option.features = QStyleOptionViewItem::HasDisplay;
@@ -183,7 +191,7 @@ QString PropertyView::fitted(const QModelIndex& cell) const {
     const int room = columnWidth(labelColumn) - labels_.margins;
     QStringList words = text.split(QLatin1Char(' '));
     for (QString& word : words)
-        if (metrics.horizontalAdvance(word) > room) word = breakable(word);
+        if (metrics.horizontalAdvance(word) > room) word = broken(word, metrics, room);
     return words.join(QLatin1Char(' '));
 }
 
@@ -193,13 +201,22 @@ void PropertyView::measureAgain() {
     fitColumns();
 }
 
+// Of labels and values. Without a scroll bar where every row fits in one line: while the bar of an earlier layout
+// takes its width, rows may wrap, and need the bar.
+int PropertyView::roomForTexts() const {
+    const QSize whole = maximumViewportSize();
+    const bool fits = labels_.line + values_.line + signWidth_ <= whole.width() &&
+                      model()->rowCount() * lineHeight_ <= whole.height();
+    return (fits ? whole : viewport()->size()).width() - signWidth_;
+}
+
 // The labels get what they need and the values the rest. With less room labels are wrapped, then values, and
 // at last the words of the labels are broken. A share that the user gave to the labels is kept in these limits.
 void PropertyView::fitColumns() {
     if (isFitting_ || !isVisible() || !model()) return;
     const QScopedValueRollback<bool> fitting(isFitting_, true);
     measure();
-    const int room = viewport()->width() - signWidth_;
+    const int room = roomForTexts();
     const int most = std::max(room - values_.word, leastLabel_);
     const int least = std::min(labels_.word, most);
     const int wanted = labelShare_ ? static_cast<int>(std::lround(*labelShare_ * room))
@@ -218,7 +235,7 @@ void PropertyView::fitColumns() {
 
 void PropertyView::onSectionResized(int section, int /*before*/, int width) {
     if (isFitting_ || section != labelColumn || !isMeasured_) return;
-    labelShare_ = static_cast<double>(width) / std::max(1, viewport()->width() - signWidth_);
+    labelShare_ = static_cast<double>(width) / std::max(1, roomForTexts());
     fitColumns();
 }
 

@@ -69,6 +69,7 @@ class PropertyView : public QTreeView {
     void onClicked(const QModelIndex& cell);
     void onSectionResized(int section, int before, int width);
     void measure() const;
+    int roomForTexts() const;
     void fitColumns();
     QStyleOptionViewItem boldOption(int column) const;
     QSize sizeOf(QStyleOptionViewItem& option, const QString& text) const;

@@ -38,7 +38,7 @@ Work creates(int runs) {
 Work shows(int /*runs*/) {
     auto table = std::make_shared<Table>();
     return [=] {
-        table->widgets.clear();  // or it would be painted again, as the window that is no longer active
+        table->widgets.clear();  // otherwise deactivation would repaint it
         table->show();
     };
 }
@@ -49,7 +49,7 @@ Work destroys(int runs) {
     return [=] { table->widgets.pop_back(); };
 }
 
-// Two settings in turn, each painted.
+// Alternates between two settings and paints each.
 auto changes(const char* one, const char* other) {
     return [=](int) -> Work {
         auto table = std::make_shared<Table>();

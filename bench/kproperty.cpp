@@ -1,4 +1,4 @@
-// A program of its own: KProperty installs translators, which everything translated would have to ask.
+// A separate program: KProperty installs translators, which would slow down every translation in the others.
 #include "bench/peer_view.h"
 
 #include <KPropertyEditorView>

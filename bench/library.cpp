@@ -1,4 +1,4 @@
-// All that is measured of the library, and of what Qt alone takes for the same.
+// All operations of the library, and the same work done with plain Qt.
 #include "bench/rooms.h"
 #include "bench/sample.h"
 

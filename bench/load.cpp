@@ -1,4 +1,4 @@
-// Loads a library into a running Qt program, once, and says how long that took:  bench_load libtiv_echotable
+// Loads a library into a running Qt program, once, and prints the time:  bench_load libtiv_echotable
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QLibrary>

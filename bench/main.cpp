@@ -1,6 +1,6 @@
-// bench                        times by Google Benchmark; --help tells its options
-// bench --count                under callgrind: counts each operation, into dumps that are named after it
-// bench --memory               the bytes that each holding keeps
+// bench                        times by Google Benchmark; --help lists its options
+// bench --count                under callgrind: counts each operation, in a dump named after it
+// bench --memory               the bytes kept by each object
 #include "bench/operations.h"
 
 #include <QApplication>
@@ -19,12 +19,13 @@ void work(const bench::Work& once, int runs) {
     for (int i = 0; i < runs; ++i) once();
 }
 
-// The first dump of an operation ends with what came before it, and says so by its name.
+// The first dump of an operation contains everything before it; its name marks it.
 void count(const bench::Operation& operation) {
-    work(operation.prepare(2), 2);  // what happens once in the life of a program
+    work(operation.prepare(2), 2);  // work done once per process
     for (const int runs : {operation.few, operation.many}) {
         const bench::Work once = operation.prepare(runs);
-        const std::string dump = std::to_string(runs) + " x " + operation.name;  // read when it is written
+        const std::string dump =
+            std::to_string(runs) + " x " + operation.name;  // used when the dump is written
         CALLGRIND_START_INSTRUMENTATION;
         CALLGRIND_ZERO_STATS;
         work(once, runs);

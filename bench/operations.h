@@ -1,5 +1,5 @@
-// The work that is measured. Google Benchmark times it for people; counted by instructions it is the same
-// on every run (main.cpp).
+// The operations that are measured. Google Benchmark measures times; the count of instructions is the same in every
+// run (main.cpp).
 #pragma once
 
 #include <functional>
@@ -13,21 +13,21 @@ using Work = std::function<void()>;
 
 struct Operation {
     std::string name;
-    // Makes ready for `runs` runs, which is not measured; the work is then done that often.
+    // Prepares `runs` runs, which is not measured. The result does the work of that number of runs.
     std::function<Work(int runs)> prepare;
-    // The work is counted for both numbers of runs; what one run takes is the difference over the
-    // difference, so that what is done only once does not count.
+    // The work is counted for both numbers of runs. The cost of one run is the difference of the counts divided by
+    // the difference of the runs, so that work done only once is excluded.
     int few = 20;
     int many = 40;
 };
 
-// What is kept per object while it lives.
+// Memory kept per object.
 struct Holding {
     std::string name;
     std::function<std::shared_ptr<void>()> make;
 };
 
-// Of this program.
+// The operations of this program.
 std::vector<Operation> operations();
 std::vector<Holding> holdings();
 

@@ -1,5 +1,5 @@
-// What is measured of a view of 15 options: a struct with a widget `view`, and `change(turn)` for the value
-// of one option.
+// Operations on a view of 15 options: a struct with a widget `view` and a function `change(turn)`, which changes the
+// value of one option.
 #pragma once
 
 #include "bench/operations.h"
@@ -25,7 +25,7 @@ std::vector<Operation> viewOperations(const std::string& name) {
     const auto shows = [=](int) -> Work {
         auto last = std::make_shared<std::unique_ptr<View>>();
         return [=] {
-            last->reset();  // or it would be painted again, as the window that is no longer active
+            last->reset();  // otherwise deactivation would repaint it
             show(*(*last = std::make_unique<View>()));
         };
     };

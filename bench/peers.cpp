@@ -1,4 +1,4 @@
-// The same work as an application does it that has no library for it.
+// The same work as an application does it without the library.
 #include "bench/peer_view.h"
 #include "bench/rooms.h"
 
@@ -11,7 +11,7 @@
 namespace bench {
 namespace {
 
-// A line as an application puts it together: its comment translated, three texts into a pattern.
+// One line: the comment translated, three texts inserted into a pattern.
 Work qtLines(int /*runs*/) {
     return [] {
         std::vector<QString> lines;

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Writes docs/performance.md from what was measured: report.py FOLDER DOCUMENT MACHINE
+"""Writes docs/performance.md from the measurements: report.py FOLDER DOCUMENT MACHINE
 
 FOLDER holds callgrind's dumps, memory.tsv, load.tsv and times.csv. The words of the document are in performance.md.in.
 """

@@ -1,4 +1,4 @@
-// The operations of the program `bench`, by what they are about.
+// The operations of the program `bench`, by subject.
 #pragma once
 
 #include "bench/operations.h"
@@ -6,8 +6,8 @@
 namespace bench {
 
 std::vector<Operation> tableOperations();      // EchoData without its inspector
-std::vector<Operation> inspectorOperations();  // and with it
+std::vector<Operation> inspectorOperations();  // EchoData with its inspector
 std::vector<Operation> projectOperations();    // the project database
-std::vector<Operation> peerOperations();       // what plain Qt takes for the same
+std::vector<Operation> peerOperations();       // the same work with plain Qt
 
 }  // namespace bench

@@ -1,4 +1,4 @@
-// What the operations work on.
+// Test data of the operations.
 #pragma once
 
 #include "tiv/echo/echo_data.h"
@@ -11,13 +11,13 @@ namespace bench {
 
 // A project file with elements of every kind: all options apply.
 int project();
-// A project file with so many elements of every kind.
+// A project file with the given number of elements of every kind.
 std::string projectFile(int elements);
 
 using tiv::echo::EchoData;
 constexpr auto plax2 = EchoData::PLAX2;
 
-// Settings of plax2: 8 and all 15 of its options, in other levels than by default.
+// Settings of plax2: 8 and all 15 of its options, at levels other than the default.
 constexpr const char* eightOptions =
     R"({"prop":{"full":1,"node":2,"beam":3,"spri":1,"boun":2,"sect":3,"mat":1,"load":2}})";
 constexpr const char* allOptions =
@@ -28,7 +28,7 @@ constexpr const char* allOtherwise =
 // The settings string for settings in JSON.
 QString settingsString(EchoData::ProgrammTypes type, const QString& json);
 
-// What an application does when its user changes the language: "C" or "de".
+// Changes the language of the application: "C" or "de".
 void speak(const char* language);
 
 }  // namespace bench

@@ -9,7 +9,7 @@
 namespace bench {
 namespace {
 
-// The work on one table of plax2 with these settings.
+// Operations on one table of plax2 with these settings.
 template <class Call>
 auto on(const char* settings, Call call) {
     return [=](int) -> Work {
@@ -40,7 +40,7 @@ void insertBroken(EchoData& echo) {
     throw std::logic_error("settings without an end were read");
 }
 
-// Tables of every type that all stay: made, loaded, saved, and written as lines.
+// Tables of every type, made, loaded, saved and written as lines; all are kept.
 Work wholeLives(int /*runs*/) {
     std::vector<QString> settings;
     for (unsigned type = 0; type < 14; ++type)

@@ -16,7 +16,7 @@ task() { # <name> <program> KEY=LEVEL...
 # shellcheck disable=SC2016 # the inner shell expands
 picture() { # <name> <locale> <what xdotool does first> [argument of echohost]...
     xvfb-run --auto-servernum --server-args "-screen 0 1160x470x24 -dpi 96" bash -c '
-        env LC_ALL="$2" XDG_RUNTIME_DIR="$PWD" "$0" -qwindowgeometry 1160x470+0+0 "${@:4}" house.tiv & host=$!
+        env LC_ALL="$2" XDG_RUNTIME_DIR="$PWD" XDG_CONFIG_HOME="$PWD" "$0" -qwindowgeometry 1160x470+0+0 "${@:4}" house.tiv & host=$!
         xdotool search --sync --onlyvisible --name house.tiv >window
         for step in "$3" "mousemove 1159 469"; do
             sleep 1

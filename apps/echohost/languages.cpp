@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QEvent>
 #include <QLibraryInfo>
 #include <QStringList>
 
@@ -61,11 +62,16 @@ void Languages::choose(const QLocale& locale) {
     QLocale::setDefault(locale);  // first: installing a translator makes the library read the locale again
     for (QTranslator* translator : {&texts_, &qtTexts_}) QCoreApplication::removeTranslator(translator);
     const QLocale language = current();
-    if (isEnglish(language)) return;
-    const QString qt = QLibraryInfo::location(QLibraryInfo::TranslationsPath);
-    load(qtTexts_, language, QLatin1String("qtbase_"), qt);
-    for (const QString& folder : folders())
-        if (load(texts_, language, ownCatalogue, folder)) return;
+    if (!isEnglish(language)) {
+        load(qtTexts_,
+            language,
+            QLatin1String("qtbase_"),
+            QLibraryInfo::location(QLibraryInfo::TranslationsPath));
+        for (const QString& folder : folders())
+            if (load(texts_, language, ownCatalogue, folder)) break;
+    }
+    QEvent change(QEvent::LocaleChange);  // for the library: there may be no catalogue of the window's own
+    QCoreApplication::sendEvent(QCoreApplication::instance(), &change);
 }
 
 }  // namespace echohost

@@ -1,11 +1,10 @@
-# What `cmake --install` puts where, and the package that find_package(tiv_echotable CONFIG) finds:
-# the targets tiv::echotable, tiv::dbo and tiv::smartassert. The components are library, development, and one of
-# the name of each program.
+# Install rules. Two CMake packages are installed: tiv_platform (targets tiv::dbo and tiv::smartassert, the
+# same for every version of Qt), and tiv_echotable or tiv_echotable_qt6 (tiv::echotable), which includes it.
+# The components are smartassert, dbo, library, common (headers and the rest of tiv_platform), development, and
+# one named after each program. As part of another project nothing is installed.
 include_guard(GLOBAL)
 include(CMakePackageConfigHelpers)
 include(GNUInstallDirs)
-
-set(TIV_PACKAGE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/tiv_echotable)
 
 # tiv_describe_abi(<source>...): the files that define what a library exports. They carry debug information in
 # every build: from it the test of the binary interface reads the layout of the types.
@@ -13,16 +12,13 @@ function(tiv_describe_abi)
     set_source_files_properties(${ARGN} PROPERTIES COMPILE_OPTIONS $<$<PLATFORM_ID:Linux>:-g>)
 endfunction()
 
-# tiv_install_library(<target> <name> <include dir>...): a shared library of the package. Consumers link
-# tiv::<name>, here as well as installed, and include below the public include directories.
-function(tiv_install_library target name)
+# tiv_library(<target> <name> PACKAGE <CMake package> COMPONENT <of the library> DEVELOPMENT <of its headers>
+#     INCLUDES <dir>...): a shared library that hosts link as tiv::<name>, in the build tree as well as
+# installed. They include below the given directories.
+function(tiv_library target name)
+    cmake_parse_arguments(LIBRARY "" "PACKAGE;COMPONENT;DEVELOPMENT" INCLUDES ${ARGN})
     add_library(tiv::${name} ALIAS ${target})
-    foreach(dir IN LISTS ARGN)
-        cmake_path(ABSOLUTE_PATH dir)
-        target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${dir}>)
-        install(DIRECTORY ${dir}/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development
-            FILES_MATCHING PATTERN *.h)
-    endforeach()
+    target_compile_features(${target} INTERFACE cxx_std_17)
     set_target_properties(${target} PROPERTIES
         EXPORT_NAME ${name}
         VERSION ${PROJECT_VERSION}
@@ -35,41 +31,58 @@ function(tiv_install_library target name)
         target_link_options(${target} PRIVATE LINKER:--version-script=${exported})
         set_target_properties(${target} PROPERTIES LINK_DEPENDS ${exported})
     endif()
-    install(TARGETS ${target}
-        EXPORT tiv_echotable-targets
-        ARCHIVE COMPONENT development
-        LIBRARY COMPONENT library NAMELINK_COMPONENT development
-        RUNTIME COMPONENT library
-        INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
-endfunction()
-
-# tiv_install_program(<target>): a program that finds the libraries beside it, and its manual page.
-function(tiv_install_program target)
-    file(RELATIVE_PATH libraries ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_FULL_LIBDIR})
-    set_target_properties(${target} PROPERTIES INSTALL_RPATH $ORIGIN/${libraries})
-    install(TARGETS ${target} RUNTIME COMPONENT ${target})
-    if(UNIX)
-        configure_file(${PROJECT_SOURCE_DIR}/docs/${target}.1 ${target}.1 @ONLY)
-        install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${target}.1
-            DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT ${target})
+    foreach(dir IN LISTS LIBRARY_INCLUDES)
+        cmake_path(ABSOLUTE_PATH dir NORMALIZE)
+        target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${dir}>)
+        if(PROJECT_IS_TOP_LEVEL)
+            install(DIRECTORY ${dir}/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT common
+                FILES_MATCHING PATTERN *.h)
+        endif()
+    endforeach()
+    if(PROJECT_IS_TOP_LEVEL)
+        install(TARGETS ${target}
+            EXPORT ${LIBRARY_PACKAGE}-targets
+            ARCHIVE COMPONENT ${LIBRARY_DEVELOPMENT}
+            LIBRARY COMPONENT ${LIBRARY_COMPONENT} NAMELINK_COMPONENT ${LIBRARY_DEVELOPMENT}
+            RUNTIME COMPONENT ${LIBRARY_COMPONENT}
+            INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
     endif()
 endfunction()
 
-configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/tiv_echotable-config.cmake.in
-    ${PROJECT_BINARY_DIR}/tiv_echotable-config.cmake
-    INSTALL_DESTINATION ${TIV_PACKAGE_DIR})
-write_basic_package_version_file(${PROJECT_BINARY_DIR}/tiv_echotable-config-version.cmake
-    COMPATIBILITY SameMajorVersion)
-install(FILES
-    ${PROJECT_BINARY_DIR}/tiv_echotable-config.cmake
-    ${PROJECT_BINARY_DIR}/tiv_echotable-config-version.cmake
-    DESTINATION ${TIV_PACKAGE_DIR} COMPONENT development)
-install(EXPORT tiv_echotable-targets NAMESPACE tiv:: DESTINATION ${TIV_PACKAGE_DIR} COMPONENT development)
+# tiv_cmake_package(<name> <template> <component>): what find_package(<name>) reads.
+function(tiv_cmake_package name template component)
+    set(folder ${CMAKE_INSTALL_LIBDIR}/cmake/${name})
+    set(config ${PROJECT_BINARY_DIR}/${name}-config)
+    configure_package_config_file(${template} ${config}.cmake INSTALL_DESTINATION ${folder})
+    write_basic_package_version_file(${config}-version.cmake COMPATIBILITY SameMajorVersion)
+    install(FILES ${config}.cmake ${config}-version.cmake DESTINATION ${folder} COMPONENT ${component})
+    install(EXPORT ${name}-targets NAMESPACE tiv:: DESTINATION ${folder} COMPONENT ${component})
+endfunction()
 
-# The exceptions that a host catches; complete in their header.
-install(FILES ${PROJECT_SOURCE_DIR}/bond/exceptions.h
-    DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/bond COMPONENT development)
+# tiv_pkgconfig(<name> <component> <description> [REQUIRES <packages>] [FLAGS <flags>])
+function(tiv_pkgconfig name component description)
+    cmake_parse_arguments(PACKAGE "" "REQUIRES;FLAGS" "" ${ARGN})
+    set(requires ${PACKAGE_REQUIRES})
+    set(flags ${PACKAGE_FLAGS})
+    configure_file(${PROJECT_SOURCE_DIR}/cmake/pkgconfig.pc.in ${PROJECT_BINARY_DIR}/${name}.pc @ONLY)
+    install(FILES ${PROJECT_BINARY_DIR}/${name}.pc
+        DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT ${component})
+endfunction()
 
-if(WIN32)
-    include(${CMAKE_CURRENT_LIST_DIR}/windows/runtime.cmake)
-endif()
+# tiv_program(<target> <name>): an installed program and its manual page. Where a folder in LD_LIBRARY_PATH can
+# replace a library, the program contains project database and assertion reports itself: a host's own
+# libraries of these names lack functions that it needs.
+function(tiv_program target name)
+    file(RELATIVE_PATH libraries ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_FULL_LIBDIR})
+    set_target_properties(${target} PROPERTIES OUTPUT_NAME ${name} INSTALL_RPATH $ORIGIN/${libraries})
+    install(TARGETS ${target} RUNTIME COMPONENT ${name})
+    if(NOT WIN32 AND NOT APPLE)
+        target_link_libraries(${target} PRIVATE tiv_dbo_objects tiv_smartassert_objects)
+        target_link_options(${target} PRIVATE LINKER:--as-needed)
+    endif()
+    if(UNIX)
+        configure_file(${PROJECT_SOURCE_DIR}/docs/${name}.1 ${name}.1 @ONLY)
+        install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${name}.1
+            DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT ${name})
+    endif()
+endfunction()

@@ -1,10 +1,10 @@
 # On Windows an installed program finds its libraries in its own folder: what the package needs beside it.
-# The target `zip` packs an installation.
+# The target `tiv_zip` packs an installation.
 foreach(module Core Gui Widgets)
-    install(FILES $<TARGET_FILE:Qt5::${module}> TYPE BIN)
+    install(FILES $<TARGET_FILE:Qt${TIV_QT}::${module}> TYPE BIN)
 endforeach()
-install(FILES $<TARGET_FILE:Qt5::QWindowsIntegrationPlugin> DESTINATION ${CMAKE_INSTALL_BINDIR}/platforms)
-install(FILES $<TARGET_FILE:Qt5::QWindowsVistaStylePlugin> DESTINATION ${CMAKE_INSTALL_BINDIR}/styles)
+install(FILES $<TARGET_FILE:Qt${TIV_QT}::QWindowsIntegrationPlugin> DESTINATION ${CMAKE_INSTALL_BINDIR}/platforms)
+install(FILES $<TARGET_FILE:Qt${TIV_QT}::QWindowsVistaStylePlugin> DESTINATION ${CMAKE_INSTALL_BINDIR}/styles)
 
 if(MINGW)
     set(dependencies ${CMAKE_FIND_ROOT_PATH})
@@ -14,7 +14,7 @@ if(MINGW)
     install(DIRECTORY ${dependencies}/licenses DESTINATION ${CMAKE_INSTALL_DOCDIR})
 
     set(package ${PROJECT_NAME}-${PROJECT_VERSION}-windows-mingw64)
-    add_custom_target(zip
+    add_custom_target(tiv_zip
         COMMAND ${CMAKE_COMMAND} -E rm -rf ${package} ${package}.zip
         COMMAND ${CMAKE_COMMAND} --install . --strip --prefix ${package}
         COMMAND ${CMAKE_COMMAND} -E tar cf ${package}.zip --format=zip ${package}

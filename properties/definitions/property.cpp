@@ -30,7 +30,7 @@ T converted(const QVariant& value) {
         if (!value.canConvert<QString>()) conversionFailed();
         return value.toString().toStdString();
     } else if constexpr (std::is_same_v<T, bool>) {
-        if (value.type() == QVariant::Bool) return value.toBool();
+        if (value.userType() == QMetaType::Bool) return value.toBool();
         const qlonglong number = value.toLongLong(&ok);
         if (!ok || number < 0 || number > 1) conversionFailed();
         return number == 1;
@@ -41,7 +41,7 @@ T converted(const QVariant& value) {
         return static_cast<T>(number);
     } else if constexpr (std::is_unsigned_v<T>) {
         const qulonglong number = value.toULongLong(&ok);
-        const bool negative = value.type() != QVariant::ULongLong && value.toLongLong() < 0;
+        const bool negative = value.userType() != QMetaType::ULongLong && value.toLongLong() < 0;
         if (!ok || negative || number > std::numeric_limits<T>::max()) conversionFailed();
         return static_cast<T>(number);
     } else {

@@ -13,7 +13,7 @@ import subprocess
 import sys
 from pathlib import Path
 
-source, build, scratch, version = (*map(Path, sys.argv[1:4]), sys.argv[4])
+source, build, scratch, version, qt = (*map(Path, sys.argv[1:4]), *sys.argv[4:6])
 fence = re.compile(r"^```(\w*) ?(.*)\n((?s:.*?))^```$", re.M)
 
 
@@ -27,6 +27,10 @@ def run(place, command, expected=None):
 
 def blocks_of(document):
     text = document.read_text()
+    if qt == "6":  # the names that docs/host-guide.md lists
+        text = text.replace("find_package(tiv_echotable ", "find_package(tiv_echotable_qt6 ")
+        text = text.replace("${tiv_echotable_VERSION", "${tiv_echotable_qt6_VERSION")
+        text = text.replace("libtiv_echotable.so", "libtiv_echotable-qt6.so")
     prose = fence.sub("", text)
     for unfenced in re.findall(r"^\n {4}\S.*", prose, re.M):
         sys.exit(f"{document}: no fence around {unfenced.strip()}")
@@ -55,13 +59,19 @@ files = {info: code for _, _, info, code in readme + guides if info and not info
 programs = [name[:-4] for name in files if re.fullmatch(r"\w+\.cpp", name)]
 beginning, target = re.split("(?=^add_executable)", files["host/CMakeLists.txt"], 1, re.M)
 files["CMakeLists.txt"] = beginning + "".join(target.replace("host", name) for name in programs)
-shutil.rmtree(scratch, ignore_errors=True)
-scratch.mkdir(mode=0o700)
-(scratch / "build").mkdir()
-(scratch / "build/release").symlink_to(build)
+# What was built before stays, and is built again only where a file has changed.
+kept = {"build", *programs, *(name.split("/")[0] for name in files)}
+scratch.mkdir(mode=0o700, exist_ok=True)
+for entry in scratch.iterdir():
+    if entry.name not in kept:
+        shutil.rmtree(entry) if entry.is_dir() else entry.unlink()
+(scratch / "build").mkdir(exist_ok=True)
+if not (scratch / "build/release").is_symlink():
+    (scratch / "build/release").symlink_to(build)
 for name, code in files.items():
     (scratch / name).parent.mkdir(exist_ok=True)
-    (scratch / name).write_text(code)
+    if not (scratch / name).exists() or (scratch / name).read_text() != code:
+        (scratch / name).write_text(code)
 
 follow(readme)
 run("programs", "cmake -G Ninja -S . -B build/programs -D CMAKE_PREFIX_PATH=$PWD/build/installed"

@@ -1,12 +1,27 @@
 #!/usr/bin/env bash
 # debian.sh PACKAGES CACHE: installs the packages of that folder into a clean Debian 12, as root, and uses them
 # there. What was downloaded for it stays in the other folder.
+# debian.sh --check: fails with a sentence where that is impossible.
 set -euo pipefail
+if [ "$1" = --check ]; then
+    unshare --pid --fork --kill-child --mount-proc true 2>/dev/null && exit
+    echo "The packages are tried in a container of their own, which cannot be made here: it takes root, and a root" \
+        "folder that is a mount point (not a plain chroot)."
+    exit 1
+fi
+umask 022
 packages=$(realpath "$1")
 mkdir -p "$2/archives"
 cache=$(realpath "$2")
 here=$(dirname "$(realpath "$0")")
 version=$(dpkg-deb --field "$packages"/echotable_*.deb Version)
+
+echo "== Permissions"
+for package in "$packages"/*.deb; do
+    if dpkg-deb --contents "$package" | grep -v '^drwxr-xr-x root/root\|^-rw-r--r-- root/root\|^lrwx\|^-rwxr-xr-x root/root .* ./usr/bin/'; then
+        echo "$package: unexpected permissions" && exit 1
+    fi
+done
 
 root=$(mktemp --directory "$cache/root.XXXXXX")
 trap 'rm -rf "$root"' EXIT
@@ -40,7 +55,7 @@ cp -l "$cache"/archives/*.deb "$root/var/cache/apt/archives" 2>/dev/null || true
 
 echo "== Library and programs"
 inside apt-get update -q >"$cache/apt.log"
-put ./packages/{libtiv-echotable[0-9],echotable,echohost}*.deb
+put ./packages/{libtiv-dbo1,libtiv-smartassert1,libtiv-echotable1,echotable,echohost}_*.deb
 check "echotable $version" echotable --version
 check "echohost $version" echohost --version
 check "ECHO OPT LAST WERT VOLL \$ Lasten" \
@@ -51,14 +66,22 @@ for page in echotable echohost; do
 done
 inside echotable programs
 
-echo "== Development files"
-put ./packages/libtiv-echotable-dev*.deb g++ cmake make
-inside cmake -S consumer -B build
-inside cmake --build build
-inside ctest --test-dir build --output-on-failure
+for qt in 5 6; do
+    echo "== Development files for Qt $qt"
+    suffix=
+    [ $qt = 5 ] || suffix=-qt6
+    put ./packages/libtiv-{dbo1,smartassert1,echotable-common-dev,"echotable$suffix-dev"}_*.deb \
+        ./packages/"libtiv-echotable${suffix:+-qt6-}"1_*.deb g++ cmake make pkg-config
+    inside cmake -S consumer -B "build$qt" -D "PACKAGE=tiv_echotable${suffix/-/_}"
+    inside cmake --build "build$qt"
+    inside ctest --test-dir "build$qt" --output-on-failure
+    # shellcheck disable=SC2016 # the inner shell expands
+    inside sh -c 'g++ -std=c++17 -fPIC consumer/main.cpp $(pkg-config --cflags --libs "$0" tiv_dbo tiv_smartassert) -o by-pkg-config &&
+        ./by-pkg-config | diff consumer/expected.txt -' "tiv_echotable$suffix"
+done
 
 echo "== No path of this machine"
-if inside sh -c "dpkg --listfiles libtiv-echotable${version%%.*} libtiv-echotable-dev echotable echohost |
+if inside sh -c "dpkg-query --show --showformat '\${Package}\n' 'libtiv-*' echotable echohost | xargs dpkg --listfiles |
     xargs grep -sF --directories=skip '${here%/tests/package}'"; then
     exit 1
 fi

@@ -131,7 +131,7 @@ void NamedValueEditor::keyPressEvent(QKeyEvent* event) {
 // A click outside closes the list. Platforms that replay the click deliver it to the widget below, except for
 // the list's own cell, where it would reopen the list. The second click of a double click closes nothing.
 void NamedValueEditor::mousePressEvent(QMouseEvent* event) {
-    const bool inCell = cell_.contains(event->globalPos());
+    const bool inCell = cell_.contains(mapToGlobal(event->pos()));
     if (inCell && shown_.elapsed() < QApplication::doubleClickInterval()) return;
     setAttribute(Qt::WA_NoMouseReplay, inCell);
     QFrame::mousePressEvent(event);

@@ -11,6 +11,10 @@
 /// Every call comes from the user-interface thread. A QApplication exists while inspectors do.
 #pragma once
 
+#if (defined(_MSVC_LANG) ? _MSVC_LANG : __cplusplus) < 201703L
+#error "tiv_echotable needs C++17: compile with -std=c++17 or later."
+#endif
+
 #include <QCoreApplication>
 #include <QObject>
 #include <QString>
@@ -25,6 +29,10 @@
 #define TIV_ECHOTABLE_EXPORT Q_DECL_EXPORT
 #else
 #define TIV_ECHOTABLE_EXPORT Q_DECL_IMPORT
+#endif
+
+#if defined(TIV_ECHOTABLE_QT) && TIV_ECHOTABLE_QT != QT_VERSION_MAJOR
+#error "This tiv_echotable was built with another major version of Qt than the host."
 #endif
 
 class QWidget;
@@ -43,6 +51,13 @@ class TIV_ECHOTABLE_EXPORT EchoData : public QObject {
     Q_DECLARE_TR_FUNCTIONS(EchoData)
 
  public:
+#if QT_VERSION_MAJOR >= 6  // where the macro declares tr() only
+    /// The same as tr().
+    static QString trUtf8(const char* text, const char* disambiguation = nullptr, int n = -1) {
+        return tr(text, disambiguation, n);
+    }
+#endif
+
     /// One task of one analysis program. (sic: a host's code spells it so.)
     enum ProgrammTypes : std::uint32_t {
         QSX_BRUC = 0,     ///< cross sections, ultimate limit state

@@ -27,6 +27,10 @@
 /// does none of the three to an open file.)
 #pragma once
 
+#if (defined(_MSVC_LANG) ? _MSVC_LANG : __cplusplus) < 201703L
+#error "tiv_echotable needs C++17: compile with -std=c++17 or later."
+#endif
+
 #include <tiv/dbo/export.h>
 
 #include <array>

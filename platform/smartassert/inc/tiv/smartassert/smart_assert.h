@@ -13,6 +13,10 @@
 /// from every build. Every call comes from one thread.
 #pragma once
 
+#if (defined(_MSVC_LANG) ? _MSVC_LANG : __cplusplus) < 201703L
+#error "tiv_echotable needs C++17: compile with -std=c++17 or later."
+#endif
+
 #include <tiv/smartassert/export.h>
 
 #include <functional>

@@ -1,4 +1,4 @@
-# Every target of the project links tiv_internal: one place for language strictness and the include root.
+# Every target of the project links tiv_internal: compiler warnings, and includes from the root folder.
 add_library(tiv_internal INTERFACE)
 target_include_directories(tiv_internal INTERFACE ${PROJECT_SOURCE_DIR})
 if(MSVC)

@@ -64,6 +64,7 @@ function(tiv_pkgconfig name component description)
     cmake_parse_arguments(PACKAGE "" "REQUIRES;FLAGS" "" ${ARGN})
     set(requires ${PACKAGE_REQUIRES})
     set(flags ${PACKAGE_FLAGS})
+    file(RELATIVE_PATH prefix ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX})
     configure_file(${PROJECT_SOURCE_DIR}/cmake/pkgconfig.pc.in ${PROJECT_BINARY_DIR}/${name}.pc @ONLY)
     install(FILES ${PROJECT_BINARY_DIR}/${name}.pc
         DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT ${component})

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# shellcheck disable=SC2162 # pkg-config prints backslashes before blanks
 # host.sh WAY QT PREFIX SCRATCH: builds the host in consumer/ in the way that is named, and runs it. PREFIX is where
 # the library for that version of Qt is installed. CXX and CXXFLAGS are the compiler's.
 set -euo pipefail
@@ -25,7 +26,7 @@ fails() { # <expected sentence> <command>...
 
 way_pkgconfig() {
     local arguments
-    read -ra arguments < <(pkg-config --cflags --libs "tiv_echotable$suffix" tiv_dbo tiv_smartassert)
+    read -a arguments < <(pkg-config --cflags --libs "tiv_echotable$suffix" tiv_dbo tiv_smartassert)
     "$CXX" "${flags[@]}" -std=c++17 -fPIC "$here/consumer/main.cpp" "${arguments[@]}" -o consumer
     runs ./consumer
 }
@@ -40,7 +41,7 @@ way_qmake() {
 # What a host of another kind reads.
 way_refused() {
     local arguments header other=$((11 - qt)) compiler
-    read -ra arguments < <(pkg-config --cflags "tiv_echotable$suffix")
+    read -a arguments < <(pkg-config --cflags "tiv_echotable$suffix")
     for header in tiv/echo/echo_data.h tiv/dbo/dbo.h tiv/smartassert/smart_assert.h bond/exceptions.h; do
         echo "#include <$header>" >header.cpp
         for compiler in "$CXX" $(command -v clang++-14); do

@@ -119,7 +119,10 @@ struct Task {
     int programType;       ///< EchoData::ProgrammTypes
     std::string settings;  ///< any text; kept byte for byte
 
-    friend bool operator==(const Task&, const Task&) = default;
+    friend bool operator==(const Task& left, const Task& right) {
+        return left.name == right.name && left.programType == right.programType &&
+               left.settings == right.settings;
+    }
 };
 
 /// \param database the handle of the project.

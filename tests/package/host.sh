@@ -41,17 +41,18 @@ way_qmake() {
 # What a host of another kind reads.
 way_refused() {
     local arguments header other=$((11 - qt)) compiler
+    rm -f all.cpp
     read -a arguments < <(pkg-config --cflags "tiv_echotable$suffix")
-    for header in tiv/echo/echo_data.h tiv/dbo/dbo.h tiv/smartassert/smart_assert.h bond/exceptions.h; do
-        echo "#include <$header>" >header.cpp
-        for compiler in "$CXX" $(command -v clang++-14); do
-            "$compiler" -std=c++17 -Wall -Wextra -Werror -fPIC -fsyntax-only header.cpp "${arguments[@]}"
-        done
+    for header in bond/exceptions.h tiv/echo/echo_data.h tiv/dbo/dbo.h tiv/smartassert/smart_assert.h; do
+        echo "#include <$header>" | tee -a all.cpp >header.cpp
         [ $header = bond/exceptions.h ] ||
-            fails "tiv_echotable needs C++17" "$CXX" -std=c++14 -fPIC -fsyntax-only header.cpp "${arguments[@]}"
+            fails "tiv_echotable needs C++17" "$CXX" -std=c++14 -fPIC -E header.cpp -o header.ii "${arguments[@]}"
+    done
+    for compiler in "$CXX" $(command -v clang++-14); do
+        "$compiler" -std=c++17 -Wall -Wextra -Werror -fPIC -fsyntax-only all.cpp "${arguments[@]}"
     done
     echo "#include <tiv/echo/echo_data.h>" >header.cpp
-    fails "built with another major version of Qt" "$CXX" -std=c++17 -fPIC -fsyntax-only header.cpp \
+    fails "built with another major version of Qt" "$CXX" -std=c++17 -fPIC -E header.cpp -o header.ii \
         "${arguments[@]}" -U TIV_ECHOTABLE_QT -D TIV_ECHOTABLE_QT=$other
     cat >CMakeLists.txt <<CMAKE
 cmake_minimum_required(VERSION 3.25)

@@ -1,9 +1,10 @@
-// A fuzz target is one function that is fed bytes of any kind and neither crashes nor lets an exception
-// out. Each says at its head how it takes the bytes. `./dev fuzz` links it with an engine that invents
-// them; everywhere else replay.cpp feeds it the files of fuzz/corpus/<target>, as a test.
+// A fuzz target is one function that takes any bytes and neither crashes nor lets an exception out. The comment
+// at its head describes the format of the bytes. `./dev fuzz` links it with an engine that generates them;
+// otherwise replay.cpp feeds it the files of fuzz/corpus/<target>, as a test.
 //
-// An input that fails is build/fuzz/<target>-crash-<hash>. Once it is mended, it goes into the corpus
-// under a name that says what was wrong. The rest that was found worth keeping is in build/fuzz/corpus:
+// An input that fails is build/fuzz/<target>-crash-<hash>. When the fault is fixed, the input goes into the
+// corpus under a name that describes the fault. The other inputs that reached new code are in
+// build/fuzz/corpus. To add those that the corpus lacks:
 //
 //     build/fuzz/address/bin/fuzz_codec -merge=1 fuzz/corpus/codec build/fuzz/corpus/codec
 #pragma once
@@ -16,7 +17,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
 namespace fuzz {
 
-// Throws what no target catches.
+// Throws an exception that no target catches.
 inline void require(bool holds, const char* otherwise) {
     if (!holds) throw std::logic_error(otherwise);
 }

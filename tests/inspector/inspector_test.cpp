@@ -75,6 +75,10 @@ TEST(Inspector, ShowsTheApplicableOptionsInOrderWithExactlyTheirLevels) {
                 driver.click(o.label);
                 EXPECT_EQ(driver.offered(), offered) << o.label.toStdString();
                 EXPECT_EQ(driver.marked(), driver.row(o.label)) << o.label.toStdString();
+                for (int i = 0; i < offered.size(); ++i) {
+                    const QString tip = driver.list()->model()->index(i, 0).data(Qt::ToolTipRole).toString();
+                    EXPECT_EQ(tip.startsWith("Numeric level " + offered[i]), offered[i].size() == 1);
+                }
                 const QRect list = driver.list()->window()->frameGeometry();
                 EXPECT_EQ(driver.list()->font().family(), "DejaVu Serif");
                 EXPECT_EQ(driver.list()->layoutDirection(), widget->layoutDirection());
@@ -327,7 +331,6 @@ TEST(Inspector, HasRoomForEveryTextInOneLineAtItsHint) {
             driver.key(Qt::Key_Escape);
         }
         EXPECT_EQ(driver.view->verticalScrollBar()->maximum(), 0);
-        EXPECT_LT(driver.widget->sizeHint().width(), 2 * driver.view->header()->length());
     };
     expectRoom();
     font.setPointSize(14);
@@ -385,8 +388,16 @@ struct PaleStyle : public QProxyStyle {
     }
 };
 
-int distance(QRgb a, QRgb b) {
-    return std::abs(qRed(a) - qRed(b)) + std::abs(qGreen(a) - qGreen(b)) + std::abs(qBlue(a) - qBlue(b));
+// How near the image comes to the colour.
+int distance(const QImage& image, const QColor& colour) {
+    int least = 999;
+    for (int x = 3; x < image.width() - 3; ++x)
+        for (int y = 3; y < image.height() - 3; ++y) {
+            const QColor c = image.pixelColor(x, y);
+            least = std::min(least, std::abs(c.red() - colour.red()) + std::abs(c.green() - colour.green()) +
+                                        std::abs(c.blue() - colour.blue()));
+        }
+    return least;
 }
 
 TEST(Inspector, DrawsTextsAndSignsInTheColoursOfTheStyle) {
@@ -410,11 +421,7 @@ TEST(Inspector, DrawsTextsAndSignsInTheColoursOfTheStyle) {
                 QRect cell = driver.cell(label, column);
                 if (column == 1) cell.setWidth(textWidth(driver, label, 1));  // without the arrow
                 const QImage image = driver.view->viewport()->grab(cell).toImage();
-                int nearest = 999;
-                for (int x = 3; x < image.width() - 3; ++x)
-                    for (int y = 3; y < image.height() - 3; ++y)
-                        nearest = std::min(nearest, distance(image.pixel(x, y), QColor(colour).rgb()));
-                EXPECT_LT(nearest, 60) << label.toStdString() << column << colour;
+                EXPECT_LT(distance(image, colour), 60) << label.toStdString() << column << colour;
             }
         };
         expectColour("Loads", one.selected);
@@ -450,10 +457,7 @@ TEST(Inspector, PaintsWhateverChanges) {
     driver.key(Qt::Key_F, Qt::ControlModifier);
     driver.type("zzz");
     expectPainted("the filter");
-    const QImage placeholder = table.grab().toImage();
-    QImage empty = placeholder;
-    empty.fill(placeholder.pixel(0, 0));
-    EXPECT_NE(placeholder, empty);
+    EXPECT_LT(distance(last, Qt::black), 60) << "a placeholder";
 }
 
 #if defined(__GLIBC__) && !defined(__SANITIZE_ADDRESS__)

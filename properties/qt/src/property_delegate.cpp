@@ -81,7 +81,10 @@ void PropertyDelegate::setModelData(
 
 void PropertyDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {
     QStyledItemDelegate::initStyleOption(option, index);
-    if (index.column() == RecordItemModel::LabelColumn) option->text = view_->fitted(index);
+    if (view_->fitsInOneLine(index))
+        option->features &= ~QStyleOptionViewItem::WrapText;  // costs the style another layout of the text
+    else if (index.column() == RecordItemModel::LabelColumn)
+        option->text = view_->fitted(index);
     if (index.column() == RecordItemModel::ValueColumn) view_->makeRoomForArrow(*option);
     if (index.column() != RecordItemModel::ResetColumn || !index.data(RecordItemModel::ChangedRole).toBool())
         return;

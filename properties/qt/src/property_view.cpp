@@ -13,7 +13,6 @@
 #include <QPainter>
 #include <QScopedValueRollback>
 #include <QScrollBar>
-#include <QSet>
 #include <QTextBoundaryFinder>
 
 #include <algorithm>
@@ -27,21 +26,6 @@ constexpr int labelColumn = RecordItemModel::LabelColumn;
 constexpr int valueColumn = RecordItemModel::ValueColumn;
 constexpr int resetColumn = RecordItemModel::ResetColumn;
 constexpr int fewestLines = 3, mostLines = 20;  // of a table that a layout is free to size
-
-bool opensEditor(const QKeyEvent& event) {
-    switch (event.key()) {
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-        case Qt::Key_F2:
-            return event.modifiers() == Qt::NoModifier || event.modifiers() == Qt::KeypadModifier;
-        case Qt::Key_Space:
-            return event.modifiers() == Qt::NoModifier;
-        case Qt::Key_Down:
-            return event.modifiers() & Qt::AltModifier;
-        default:
-            return false;
-    }
-}
 
 // The word with invisible places to break it into parts that fit into the width.
 QString broken(const QString& word, const QFontMetrics& metrics, int width) {
@@ -138,11 +122,12 @@ void PropertyView::measure() const {
     isMeasured_ = true;
     const auto* rows = static_cast<const RecordItemModel*>(model());
     const QFontMetrics metrics = boldOption(labelColumn).fontMetrics;
-    QSet<QString> seen;  // most levels are offered in every row
+    widths_.clear();
     const auto add = [&](Widths& widths, const QString& text) {
-        if (seen.contains(text)) return;
-        seen.insert(text);
-        widths.line = std::max(widths.line, metrics.horizontalAdvance(text));
+        if (widths_.contains(text)) return;  // most levels are offered in every row
+        const int width = metrics.horizontalAdvance(text);
+        widths_.insert(text, width);
+        widths.line = std::max(widths.line, width);
         for (const QString& word : text.split(QLatin1Char(' ')))
             widths.word = std::max(widths.word, metrics.horizontalAdvance(word));
     };
@@ -177,11 +162,26 @@ void PropertyView::measure() const {
 
 int PropertyView::heightOf(const QModelIndex& cell) const {
     measure();
-    if (!wordWrap() || cell.column() == resetColumn) return lineHeight_;
+    if (fitsInOneLine(cell)) return lineHeight_;
+    const auto known = heights_.constFind(cell.data().toString());
+    if (known != heights_.constEnd()) return *known;
     QStyleOptionViewItem option = boldOption(cell.column());
     option.features |= QStyleOptionViewItem::WrapText;
     option.rect.setWidth(columnWidth(cell.column()));
-    return std::max(lineHeight_, sizeOf(option, fitted(cell)).height());
+    const int height = std::max(lineHeight_, sizeOf(option, fitted(cell)).height());
+    return *heights_.insert(cell.data().toString(), height);
+}
+
+bool PropertyView::fitsInOneLine(const QModelIndex& cell) const {
+    if (!wordWrap() || cell.column() == resetColumn) return true;
+    const Widths& needed = cell.column() == labelColumn ? labels_ : values_;
+    return widthOf(cell.data().toString()) + needed.margins <= columnWidth(cell.column());
+}
+
+int PropertyView::widthOf(const QString& text) const {
+    const auto known = widths_.constFind(text);
+    if (known != widths_.constEnd()) return *known;
+    return *widths_.insert(text, boldOption(labelColumn).fontMetrics.horizontalAdvance(text));
 }
 
 QString PropertyView::fitted(const QModelIndex& cell) const {
@@ -225,6 +225,7 @@ void PropertyView::fitColumns() {
     const int value = std::max(room - label, values_.word);
     const bool wraps = label < labels_.line || value < values_.line;
     breaksWords_ = label < labels_.word;
+    heights_.clear();
     header()->resizeSection(labelColumn, label);
     header()->resizeSection(valueColumn, value);
     header()->resizeSection(resetColumn, signWidth_);
@@ -281,15 +282,11 @@ void PropertyView::focusInEvent(QFocusEvent* event) {
 }
 
 void PropertyView::keyPressEvent(QKeyEvent* event) {
-    if (opensEditor(*event)) {
-        if (!event->isAutoRepeat()) editRow(currentIndex());
-        return;  // a held Return does not reach the host's default button
-    }
     if (event->key() == Qt::Key_Left || event->key() == Qt::Key_Right) return event->ignore();
     QTreeView::keyPressEvent(event);
 }
 
-// Jumps to the next visible row whose label begins with what was typed.
+// Jumps to the next visible row whose label begins with the typed letters.
 void PropertyView::keyboardSearch(const QString& text) {
     const qint64 now = QDateTime::currentMSecsSinceEpoch();
     const bool goesOn = now - searchedAt_ < QApplication::keyboardInputInterval() && searched_ != text;
@@ -322,8 +319,7 @@ void PropertyView::dataChanged(const QModelIndex& first, const QModelIndex& last
     QTreeView::dataChanged(first, last, roles);
     if (!isMeasured_ || first != last || first.column() != valueColumn) return;
     // A value that is not offered may be wider than those that are.
-    const int width = boldOption(valueColumn).fontMetrics.horizontalAdvance(first.data().toString());
-    if (width + values_.margins > values_.line) measureAgain();
+    if (widthOf(first.data().toString()) + values_.margins > values_.line) measureAgain();
 }
 
 // The columns come first, or the base class would ask for a scroll bar.

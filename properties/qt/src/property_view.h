@@ -2,6 +2,7 @@
 // when it is empty.
 #pragma once
 
+#include <QHash>
 #include <QRegion>
 #include <QString>
 #include <QStyleOptionViewItem>
@@ -26,6 +27,7 @@ class PropertyView : public QTreeView {
     int heightOf(const QModelIndex& cell) const;
     // True if the cell intersects the current paint region. (QTreeView paints whole rows.)
     bool paints(const QRect& cell) const { return painted_.intersects(cell); }
+    bool fitsInOneLine(const QModelIndex& cell) const;
     // The text of a cell, with places to break the words that are wider than its column.
     QString fitted(const QModelIndex& cell) const;
     // An arrow that turns back: the sign of a changed value, and its reset button.
@@ -72,6 +74,7 @@ class PropertyView : public QTreeView {
     int roomForTexts() const;
     void fitColumns();
     QStyleOptionViewItem boldOption(int column) const;
+    int widthOf(const QString& text) const;
     QSize sizeOf(QStyleOptionViewItem& option, const QString& text) const;
     QSize sizeFor(int lines, int width) const;
 
@@ -79,7 +82,9 @@ class PropertyView : public QTreeView {
     QRegion painted_;
     QString searched_;
     qint64 searchedAt_ = 0;
-    mutable bool isMeasured_ = false;  // the next six are then valid
+    mutable bool isMeasured_ = false;      // the next measures are then valid
+    mutable QHash<QString, int> widths_;   // of texts in one line, without margins
+    mutable QHash<QString, int> heights_;  // of wrapped texts, in the columns of the last layout
     mutable Widths labels_;
     mutable Widths values_;
     mutable int leastLabel_ = 0;  // below this width a horizontal scroll bar appears

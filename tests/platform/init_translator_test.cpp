@@ -73,7 +73,7 @@ TEST(Catalogue, IsThatOfTheMostWantedLanguage) {
 #endif
 
 TEST(Catalogue, OfAThirdLanguageIsAFileBesideTheLibraryOrInItsShareFolder) {
-    for (const char* place : {"lib", "share/tiv_echotable/translations"}) {
+    for (const char* place : {"lib", TIV_CATALOGUES}) {
         const QString folder(place);
         QTemporaryDir installed;
 #if defined(Q_OS_WIN)

@@ -8,7 +8,8 @@ cd "${1:-$(dirname "${BASH_SOURCE[0]}")/..}"
 # properties/ knows no translation context, so lupdate cannot place its texts. This lists every text("...") and
 # QT_TR_NOOP("...") of the inspector in the context of the library.
 inspector_texts() {
-    echo "// clang-format off: made by ./dev translations from the inspector's sources, for lupdate."
+    echo "// Made by ./dev translations from the inspector's sources, for lupdate."
+    echo "// clang-format off"
     echo "const char* const inspectorTexts[] = {"
     cat properties/qt/src/*.cpp properties/qt/src/*.h | tr '\n' ' ' |
         grep -oE '\<(text|QT_TR_NOOP)\( *"([^"\\]|\\.)*"( +"([^"\\]|\\.)*")* *\)' |

@@ -1,4 +1,5 @@
-// clang-format off: made by ./dev translations from the inspector's sources, for lupdate.
+// Made by ./dev translations from the inspector's sources, for lupdate.
+// clang-format off
 const char* const inspectorTexts[] = {
     QT_TRANSLATE_NOOP("EchoData", "%1 (not offered)"),
     QT_TRANSLATE_NOOP("EchoData", "Changed only"),
@@ -23,8 +24,7 @@ const char* const inspectorTexts[] = {
     QT_TRANSLATE_NOOP("EchoData", "Reset all shown (%1)"),
     QT_TRANSLATE_NOOP("EchoData", "Reset to default"),
     QT_TRANSLATE_NOOP("EchoData", "Select all"),
-    QT_TRANSLATE_NOOP(
-        "EchoData", "The stored value %1 is not offered. It stays until another one is chosen."),
+    QT_TRANSLATE_NOOP("EchoData", "The stored value %1 is not offered. It stays until another one is chosen."),
     QT_TRANSLATE_NOOP("EchoData", "These settings can no longer be changed."),
     QT_TRANSLATE_NOOP("EchoData", "Undo"),
     QT_TRANSLATE_NOOP("EchoData", "Value"),

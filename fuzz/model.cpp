@@ -1,5 +1,5 @@
-// The transactional object model beside a naive one. A byte is an operation, as
-// tests/container/operation_sequence.h says; memory runs out where the bytes want it to.
+// The transactional object model beside a naive one. A byte is an operation and a point at which memory runs
+// out, as described in tests/container/operation_sequence.h.
 #include "container/operation_sequence.h"
 #include "fuzz/target.h"
 

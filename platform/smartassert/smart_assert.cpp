@@ -37,7 +37,7 @@ SmartAssert::SmartAssert(std::string_view expression, std::string_view source, i
     }
     reporting = true;
     try {
-        const Reporter reporter = current;  // stays alive when it sets another one
+        const Reporter reporter = current;  // a copy: it may set another one
         reporter(report);
     } catch (...) {
         print(report);

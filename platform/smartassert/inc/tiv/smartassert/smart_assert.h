@@ -1,6 +1,6 @@
 /// \file
-/// Reports of programming errors that the program survives. The code that finds one reports it and goes
-/// on with a safe result; a host decides what becomes of reports:
+/// Reports of programming errors that the program survives. The code that finds one reports it and continues
+/// with a safe result. A host may handle the reports:
 ///
 ///     if (type > ROVA) {
 ///         SmartAssert(R"(0 && "invalid prog_type")", "echo/src/internal_data", 120);
@@ -9,8 +9,8 @@
 ///
 ///     const Reporter previous = setReporter([&](const Report& report) { log << report.expression; });
 ///
-/// Source and line are data that the reporting code chooses and keeps, so that a report reads the same
-/// from every build. Every call comes from one thread.
+/// Source and line are fixed data of the reporting code, so that a report is the same from every build. All
+/// calls come from one thread.
 #pragma once
 
 #if (defined(_MSVC_LANG) ? _MSVC_LANG : __cplusplus) < 201703L
@@ -32,13 +32,13 @@ struct Report {
     int line;                     ///< 120
 };
 
-/// What a host does with a report.
+/// Handles a report.
 using Reporter = std::function<void(const Report&)>;
 
-/// Takes all reports from now on.
-/// \param reporter may set another one. It is not called for a report made while it runs, and what it
-///     throws is dropped; in both cases the report goes to stderr instead. An empty one brings back the
-///     default: one line on stderr, `echo/src/internal_data:120: assertion failed: 0 && "invalid prog_type"`.
+/// Sets the function that handles all reports from now on.
+/// \param reporter may set another one. It is not called for a report made while it runs, and its exceptions
+///     are ignored; in both cases the report goes to stderr instead. An empty one restores the default: one
+///     line on stderr, `echo/src/internal_data:120: assertion failed: 0 && "invalid prog_type"`.
 /// \returns the previous reporter; an empty one for the default.
 TIV_SMARTASSERT_EXPORT Reporter setReporter(Reporter reporter);
 

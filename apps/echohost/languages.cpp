@@ -11,8 +11,8 @@
 namespace echohost {
 namespace {
 
-constexpr QLatin1String ownCatalogue("echohost_");
-constexpr QLatin1String libraryCatalogue("tiv_echotable_dll_");
+constexpr const char* ownCatalogue = "echohost_";
+constexpr const char* libraryCatalogue = "tiv_echotable_dll_";
 
 QStringList folders() {
     const QString program = QCoreApplication::applicationDirPath();
@@ -26,8 +26,8 @@ bool isEnglish(const QLocale& locale) {
     return locale.language() == QLocale::English || locale.language() == QLocale::C;
 }
 
-bool load(QTranslator& translator, const QLocale& locale, QLatin1String catalogue, const QString& folder) {
-    return translator.load(locale, catalogue, QString(), folder) &&
+bool load(QTranslator& translator, const QLocale& locale, const char* catalogue, const QString& folder) {
+    return translator.load(locale, QString::fromLatin1(catalogue), QString(), folder) &&
            QCoreApplication::installTranslator(&translator);
 }
 
@@ -36,8 +36,8 @@ bool load(QTranslator& translator, const QLocale& locale, QLatin1String catalogu
 std::vector<QLocale> Languages::offered() {
     QStringList names;
     for (const QString& folder : folders())
-        for (const QLatin1String catalogue : {ownCatalogue, libraryCatalogue})
-            for (const QString& file : QDir(folder).entryList({catalogue + QLatin1String("*.qm")}))
+        for (const auto& catalogue : {QString(ownCatalogue), QString(libraryCatalogue)})
+            for (const QString& file : QDir(folder).entryList({catalogue + "*.qm"}))
                 names << file.mid(catalogue.size()).chopped(3);
     names.sort();
     names.removeDuplicates();
@@ -63,10 +63,7 @@ void Languages::choose(const QLocale& locale) {
     for (QTranslator* translator : {&texts_, &qtTexts_}) QCoreApplication::removeTranslator(translator);
     const QLocale language = current();
     if (!isEnglish(language)) {
-        load(qtTexts_,
-            language,
-            QLatin1String("qtbase_"),
-            QLibraryInfo::location(QLibraryInfo::TranslationsPath));
+        load(qtTexts_, language, "qtbase_", QLibraryInfo::location(QLibraryInfo::TranslationsPath));
         for (const QString& folder : folders())
             if (load(texts_, language, ownCatalogue, folder)) break;
     }

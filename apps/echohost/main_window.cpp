@@ -31,11 +31,11 @@ namespace {
 enum Choice { AsSet, AllOff, AllFull };
 
 constexpr int recentCount = 8;
-constexpr QLatin1String recentKey("recentProjects");
-constexpr QLatin1String geometryKey("geometry");
-constexpr QLatin1String panelsKey("panels");
-constexpr QLatin1String languageKey("language");
-constexpr QLatin1String darkKey("dark");
+constexpr const char* recentKey = "recentProjects";
+constexpr const char* geometryKey = "geometry";
+constexpr const char* panelsKey = "panels";
+constexpr const char* languageKey = "language";
+constexpr const char* darkKey = "dark";
 
 QString projectFile(const QString& chosen) {
     const QLatin1String suffix(".tiv");

@@ -46,7 +46,7 @@ QString broken(const QString& word, const QFontMetrics& metrics, int width) {
 
 }  // namespace
 
-PropertyView::PropertyView(QWidget* parent) : QTreeView(parent) {
+PropertyView::PropertyView(QWidget* parent) : QTreeView(parent), bold_(font()) {
     setRootIsDecorated(false);
     setUniformRowHeights(true);
     setAlternatingRowColors(true);
@@ -121,15 +121,16 @@ void PropertyView::measure() const {
     if (isMeasured_ || !model()) return;
     isMeasured_ = true;
     const auto* rows = static_cast<const RecordItemModel*>(model());
-    const QFontMetrics metrics = boldOption(labelColumn).fontMetrics;
+    const QStyleOptionViewItem bold = boldOption(labelColumn);
+    const QFontMetrics& metrics = bold.fontMetrics;
+    bold_ = QFontMetricsF(bold.font);
+    space_ = bold_.horizontalAdvance(QLatin1Char(' '));
     widths_.clear();
     const auto add = [&](Widths& widths, const QString& text) {
         if (widths_.contains(text)) return;  // most levels are offered in every row
-        const int width = metrics.horizontalAdvance(text);
-        widths_.insert(text, width);
-        widths.line = std::max(widths.line, width);
+        widths.line = std::max(widths.line, widthOf(text));
         for (const QString& word : text.split(QLatin1Char(' ')))
-            widths.word = std::max(widths.word, metrics.horizontalAdvance(word));
+            widths.word = std::max(widths.word, widthOf(word));
     };
     labels_ = values_ = {};
     for (int row = 0; row < rows->rowCount(); ++row) {
@@ -178,10 +179,15 @@ bool PropertyView::fitsInOneLine(const QModelIndex& cell) const {
     return widthOf(cell.data().toString()) + needed.margins <= columnWidth(cell.column());
 }
 
+// The sum of its words: to shape a text costs most of measuring, and many texts share words.
 int PropertyView::widthOf(const QString& text) const {
     const auto known = widths_.constFind(text);
     if (known != widths_.constEnd()) return *known;
-    return *widths_.insert(text, boldOption(labelColumn).fontMetrics.horizontalAdvance(text));
+    const QStringList words = text.split(QLatin1Char(' '));
+    qreal width = words.size() == 1 ? bold_.horizontalAdvance(text) : (words.size() - 1) * space_;
+    if (words.size() > 1)
+        for (const QString& word : words) width += widthOf(word);
+    return *widths_.insert(text, static_cast<int>(std::ceil(width)));
 }
 
 QString PropertyView::fitted(const QModelIndex& cell) const {

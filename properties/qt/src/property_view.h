@@ -2,6 +2,7 @@
 // when it is empty.
 #pragma once
 
+#include <QFontMetricsF>
 #include <QHash>
 #include <QRegion>
 #include <QString>
@@ -74,7 +75,7 @@ class PropertyView : public QTreeView {
     int roomForTexts() const;
     void fitColumns();
     QStyleOptionViewItem boldOption(int column) const;
-    int widthOf(const QString& text) const;
+    int widthOf(const QString& text) const;  // of a text in one line, without margins
     QSize sizeOf(QStyleOptionViewItem& option, const QString& text) const;
     QSize sizeFor(int lines, int width) const;
 
@@ -82,7 +83,9 @@ class PropertyView : public QTreeView {
     QRegion painted_;
     QString searched_;
     qint64 searchedAt_ = 0;
-    mutable bool isMeasured_ = false;      // the next measures are then valid
+    mutable bool isMeasured_ = false;  // the next measures are then valid
+    mutable QFontMetricsF bold_;
+    mutable qreal space_ = 0;
     mutable QHash<QString, int> widths_;   // of texts in one line, without margins
     mutable QHash<QString, int> heights_;  // of wrapped texts, in the columns of the last layout
     mutable Widths labels_;

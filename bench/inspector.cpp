@@ -62,6 +62,17 @@ auto changes(const char* one, const char* other) {
     };
 }
 
+// One change of a record that so many hidden inspectors show.
+auto changesHidden(int inspectors) {
+    return [=](int) -> Work {
+        auto table = std::make_shared<Table>();
+        for (int i = 0; i < inspectors; ++i) table->create();
+        const QString texts[] = {
+            settingsString(plax2, R"({"prop":{"node":2}})"), settingsString(plax2, R"({"prop":{"node":3}})")};
+        return [=, turn = 0]() mutable { table->echo.insertXMLData(texts[++turn % 2]); };
+    };
+}
+
 Work filters(int /*runs*/) {
     auto table = std::make_shared<Table>();
     QWidget* widget = table->show();
@@ -83,6 +94,9 @@ std::vector<Operation> inspectorOperations() {
         {"inspector, one change painted", changes(R"({"prop":{"node":2}})", R"({"prop":{"node":3}})")},
         {"inspector, one change that marks its row", changes("{}", R"({"prop":{"node":3}})")},
         {"inspector, 15 changes painted", changes(allOptions, allOtherwise)},
+        {"one change, 10 hidden inspectors", changesHidden(10)},
+        {"one change, 100 hidden inspectors", changesHidden(100), 5, 15},
+        {"one change, 1000 hidden inspectors", changesHidden(1000), 5, 15},
         {"inspector, filter", filters},
         {"inspector, destroy", destroys, 5, 15},
     };

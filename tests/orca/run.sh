@@ -23,12 +23,13 @@ children+=($!)
 until [ -s "$scratch/display" ]; do sleep 0.1; done
 DISPLAY=:$(cat "$scratch/display")
 export DISPLAY QT_QPA_PLATFORM=xcb QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 NO_AT_BRIDGE=0
+export SPEECHD_CMD=/nonexistent # no voice: the log has what Orca speaks
 background openbox
 background /usr/libexec/at-spi-bus-launcher --launch-immediately
 until gdbus call --session --dest org.a11y.Bus --object-path /org/a11y/bus --method org.a11y.Bus.GetAddress \
     >/dev/null 2>&1; do sleep 0.1; done
-background orca --replace --debug-file="$log"
-until grep -qs 'activating script' "$log"; do sleep 0.2; done
+background /usr/bin/python3 "$here/start_orca.py" --replace --debug-file="$log"
+until grep -qs 'Screen reader on' "$log"; do sleep 0.2; done
 
 spoken() { # <first line of the log>
     tail -n "+$1" "$log" | sed -nE "s/^.*SPEECH OUTPUT: '(.*)'[ {].*$/\1/p"
@@ -38,7 +39,7 @@ quiet() { # waits until Orca has no more to say
     local before=-1 now
     while now=$(wc -l <"$log") && [ "$now" != "$before" ]; do
         before=$now
-        sleep 1.5
+        sleep 2.5
     done
 }
 

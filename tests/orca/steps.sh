@@ -1,10 +1,10 @@
 # What the engineer presses, and a part of what Orca then speaks.
-step "Default of all options"
-step "Loads" Down Down
-step "Default output" Return
+step "Output options"
+step "Loads.|Default output.|Default: Default output." Down Down
+step "List with 5 items" Return
 step "Full output" Down Down Down
-step "Full output" Return
-step "Default output" ctrl+z
-step "Full output" ctrl+y
-step "Default output" Delete
+step "Loads.|Full output.|Reset to default.|Changed. Default: Default output." Return
+step "Loads.|Default output.|Default: Default output." ctrl+z
+step "Loads.|Full output.|Reset to default.|Changed. Default: Default output." ctrl+y
+step "Loads.|Default output.|Default: Default output." Delete
 step "Not changed: The clipboard does not hold settings." ctrl+v

@@ -315,8 +315,9 @@ void QtInspectorWidget::copySettings() const {
 
 void QtInspectorWidget::paste() {
     if (!editor_->mayEdit()) return;
-    const QMimeData* clipboard = QApplication::clipboard()->mimeData();
-    if (!clipboard) return;
+    const QMimeData empty;
+    const QMimeData* clipboard = QApplication::clipboard()->mimeData();  // null: it has no owner
+    if (!clipboard) clipboard = &empty;
     if (const auto rows = rowsFromClipboard(*clipboard)) return pasteRows(*rows);
     if (host_.readSettings) pasteSettings(*clipboard);
 }
@@ -424,13 +425,16 @@ void QtInspectorWidget::reveal(const std::vector<PropertyValue>& values) {
     if (isCurrent) announce(first);
 }
 
-// Qt does the same when another cell becomes the current one.
+// Qt sends the same event when another cell becomes the current one. A screen reader does not read out again the
+// object that has its focus already, so the inspector gets it in between.
 void QtInspectorWidget::announce(const QModelIndex& current) {
     if (!QAccessible::isActive() || !view_->hasFocus()) return;
     auto* table = QAccessible::queryAccessibleInterface(view_)->tableInterface();
     int visible = 0;  // index among the visible rows; hidden rows have no accessible cells
     for (int row = 0; row < current.row(); ++row)
         if (!view_->isRowHidden(row, {})) ++visible;
+    QAccessibleEvent between(this, QAccessible::Focus);
+    QAccessible::updateAccessibility(&between);
     QAccessibleEvent event(table->cellAt(visible, current.column()), QAccessible::Focus);
     QAccessible::updateAccessibility(&event);
 }

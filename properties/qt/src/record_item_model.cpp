@@ -82,10 +82,10 @@ void RecordItemModel::update() {
     for (int row = 0; row < rowCount(); ++row) {
         ShownRow& shown = rows_[static_cast<std::size_t>(row)];
         QVariant value = shown.heading ? QVariant() : current(*shown.property);
-        if (value == shown.told) continue;
+        if (value == shown.announced) continue;
         const QVariant byDefault = defaultValue(*shown.property);
-        const bool marks = (value == byDefault) != (shown.told == byDefault);
-        shown.told = std::move(value);
+        const bool marks = (value == byDefault) != (shown.announced == byDefault);
+        shown.announced = std::move(value);
         // Cell by cell: a view repaints itself as a whole for anything larger.
         for (const int column : {ValueColumn, LabelColumn, ResetColumn})
             if (marks || column == ValueColumn) emit dataChanged(index(row, column), index(row, column));

@@ -1,5 +1,5 @@
 // The rows of an inspector: the shown properties of the selected record, read from it whenever they are
-// asked for. Holds no values; edits do not come here but go to the record, which tells.
+// asked for. Holds no values: edits go to the record, whose changes update this model.
 #pragma once
 
 #include "properties/definitions/property.h"
@@ -58,7 +58,7 @@ class RecordItemModel : public QAbstractTableModel {
     struct ShownRow {
         std::shared_ptr<const Property> property;  // the row's, or the first one below the heading
         bool heading;
-        QVariant told = {};  // the value that the view last heard of: only tells whether it has to hear again
+        QVariant announced = {};  // the last value that the view was updated for
     };
 
     void rebuild();

@@ -30,7 +30,7 @@ namespace tiv::container::model {
 
 namespace detail {
 
-// "Can be hashed", in the form in which Boost.TypeErasure takes it.
+// The concept "can be hashed" for Boost.TypeErasure.
 template <class T = boost::type_erasure::_self>
 struct Hashable {
     static std::size_t apply(const T& value) { return boost::hash<T>{}(value); }
@@ -57,11 +57,11 @@ class Key {
     template <class T>
     Key(std::in_place_t, const T& value) : value_(value) {}
 
-    // A key is copied, never moved from: it always has a value.
+    // Copies, and no moves: a key always has a value.
     Key(const Key&) = default;
     Key& operator=(const Key&) = default;
 
-    // Members, so that comparing something else never asks whether that converts to a key.
+    // Members, so that comparing other types never tries to convert them to a key.
     bool operator==(const Key& other) const {
         constexpr boost::type_erasure::equality_comparable<> equal{};
         return check_match(equal, value_, other.value_) && call(equal, value_, other.value_);

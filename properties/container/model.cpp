@@ -43,8 +43,8 @@ void* detail::ObjectReference::modify() const {
     const bool journalled = journal.find(entry) != nullptr;
     const std::shared_ptr<void> value = object.lock();
     if (!value || !entry || entry->object.value != value) {
-        // Alive and not the key's object: this transaction has put another in its place, or an earlier one
-        // that erased it is still being told.
+        // Alive and not the key's object: this transaction has put another in its place, or observers of an
+        // earlier transaction that erased it are still running.
         const bool erased = journalled && (value || !entry->object.value);
         throw std::runtime_error(
             erased ? "Trying to access erased object." : "Trying to access expired object.");

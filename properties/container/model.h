@@ -10,7 +10,7 @@
 //
 // Objects are inserted and erased by a Transaction and changed through an ObjectHandle, inside a
 // transaction as well. Reading needs none, and sees the changes of the open transaction. Failures are
-// std::runtime_error with the texts given here, and leave the model as it was. One thread at a time.
+// std::runtime_error with the texts given here, and leave the model as it was. Not thread-safe.
 #pragma once
 
 #include "properties/container/key.h"
@@ -39,7 +39,7 @@ class Model {
     Model();
     Model(const Model&) = delete;
     Model& operator=(const Model&) = delete;
-    // An open transaction keeps the objects: it can still be ended or dropped. Then handles have no model.
+    // An open transaction keeps the objects: it can still be ended or destroyed. Handles are then detached.
     ~Model();
 
     // The object under the key. "Unknown key." if there is none, "Type mismatch." if its type is not exactly
@@ -60,11 +60,11 @@ class Model {
     // The keys of all objects, in key order.
     std::vector<Key> keys() const;
 
-    // Tells the observer of every later transaction that changed something, once, when it has ended and no
-    // transaction is open. An observer may read, run a transaction of its own, connect and disconnect
-    // (itself and others), and destroy model and transaction. The changes of a transaction that an observer
-    // runs are told before its remaining neighbours hear of the first one. What an observer throws, end()
-    // throws to its caller.
+    // The observer is called once for every later transaction that changed something, when it has ended and
+    // no transaction is open. An observer may read, run a transaction of its own, connect and disconnect
+    // (itself and others), and destroy model and transaction. If it runs a transaction, all observers are
+    // called for that one before the remaining observers of the first are called. end() throws what an
+    // observer throws.
     boost::signals2::connection onChange(const std::function<void(const Changes&)>& observer);
 
  private:

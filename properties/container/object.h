@@ -1,4 +1,4 @@
-// An object of a Model without its type, and what the model must know of the type. Inner part of the model:
+// A type-erased object of a Model, and the operations of its type. Inner part of the model:
 // the typed functions of Model and Transaction lower to it.
 #pragma once
 

@@ -1,5 +1,5 @@
 // A typed reference to one object of a Model, through which the object is changed.
-// Got from Model::handle(); used by the settings loader and the inspector, inside a Transaction:
+// Returned by Model::handle(); used by the settings loader and the inspector, inside a Transaction:
 //
 //     const ObjectHandle<Properties> record = model.handle<Properties>(0);
 //     Transaction transaction(model);
@@ -23,7 +23,7 @@ namespace detail {
 
 struct Store;
 
-// What handles of all types have in common. Without a store: no model.
+// What handles of all types have in common. Detached without a store.
 struct ObjectReference {
     std::weak_ptr<Store> store;
     Key key = 0;
@@ -37,7 +37,7 @@ struct ObjectReference {
 template <class T>
 class ObjectHandle {
  public:
-    // A handle without a model.
+    // A detached handle.
     ObjectHandle() = default;
 
     // The object, for change until the open transaction ends; the first call in a transaction journals the

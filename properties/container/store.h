@@ -1,14 +1,14 @@
 // What a Model consists of, and the journal of its open transaction. Inner part, seen by model.cpp and
 // transaction.cpp alone.
 //
-// A rollback must not fail, so nothing it needs may be allocated then: an erased object's entry stays
-// in place, empty, until the transaction has ended, and a record keeps the object as it was.
+// A rollback must not fail, so it allocates nothing: an erased object's entry stays in place, empty, until
+// the transaction has ended, and a record keeps the object as it was.
 //
 //     in the journal's record   in the entry     the documented state
 //     before: none              an object        0 created
 //     before: an object         an object        1 modified (or another object: erased, then inserted)
 //     before: an object         none             2 erased
-//     before: none              none             2 erased, created in the same transaction: reported to nobody
+//     before: none              none             2 erased, created in the same transaction: not reported
 #pragma once
 
 #include "properties/container/model.h"
@@ -41,7 +41,7 @@ using Entries = boost::multi_index_container<Entry,
 // An entry that the transaction has touched. An entry stands for its key while the transaction is open.
 struct Record {
     const Entry* entry;
-    Object before;
+    mutable Object before;       // a rollback puts the object here that it removes
     std::shared_ptr<void> copy;  // of the value of `before`, if that was modified
 };
 
@@ -60,8 +60,8 @@ struct Journal {
     }
 };
 
-// Calls every observer; the result is the first exception.
-struct TellAll {
+// Calls every observer. The result is the first exception.
+struct CallAll {
     using result_type = std::exception_ptr;
 
     template <class Iterator>
@@ -79,7 +79,7 @@ struct TellAll {
 };
 
 using Observers =
-    boost::signals2::signal_type<void(const Changes&), boost::signals2::keywords::combiner_type<TellAll>,
+    boost::signals2::signal_type<void(const Changes&), boost::signals2::keywords::combiner_type<CallAll>,
         boost::signals2::keywords::mutex_type<boost::signals2::dummy_mutex>>::type;
 
 struct Store {

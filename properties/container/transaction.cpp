@@ -3,6 +3,7 @@
 #include "properties/container/store.h"
 
 #include <stdexcept>
+#include <utility>
 
 namespace tiv::container::model {
 
@@ -36,16 +37,16 @@ Transaction::Transaction(Model& model) : store_(model.store_) {
 
 Transaction::~Transaction() {
     if (!journal_) return;
-    store_->journal = nullptr;
+    // Objects that go are kept in the journal. They die with it, when no transaction is open any more:
+    // their destructors may use the model.
     for (const Record& record : journal_->records) {
-        const detail::Object& before = record.before;
-        if (!before.value) {
-            store_->remove(record.entry);
-            continue;
-        }
-        record.entry->object = before;
-        if (record.copy) before.type->restore(before.value.get(), record.copy.get());
+        std::swap(record.entry->object, record.before);
+        const detail::Object& restored = record.entry->object;
+        if (record.copy) restored.type->restore(restored.value.get(), record.copy.get());
+        if (!restored.value) store_->remove(record.entry);
     }
+    store_->journal = nullptr;
+    journal_.reset();
 }
 
 Journal& Transaction::openJournal() const {
@@ -60,7 +61,10 @@ void Transaction::insertObject(const Key& key, detail::Object object) {
         entry->object = std::move(object);  // empty entries are journalled
         return;
     }
-    const Entry* entry = &*store_->entries.emplace(key, std::move(object)).first;
+    // The ordered index refuses a key that is neither less nor greater than another, such as NaN.
+    const auto [place, isNew] = store_->entries.emplace(key, std::move(object));
+    if (!isNew) throw std::runtime_error("Key already exists.");
+    const Entry* entry = &*place;
     try {
         journal.records.push_back({entry, {}, {}});
     } catch (...) {
@@ -86,8 +90,8 @@ void Transaction::end() {
     const bool observed = store_->observers && !store_->observers->empty();
     const Changes changes = observed ? changesOf(open) : Changes();
 
-    // Nothing throws from here until the observers are told. They may destroy this transaction and the model,
-    // and erased objects live until all are told: the journal and the store are held here.
+    // Nothing throws from here until the observers are called. They may destroy this transaction and the
+    // model, and erased objects live until the last one returns: journal and store are held here.
     const std::shared_ptr<detail::Store> store = std::move(store_);
     const std::unique_ptr<Journal> journal = std::move(journal_);
     store->journal = nullptr;

@@ -1,5 +1,5 @@
 // The one way to change a Model: several changes that happen together or not at all.
-// Called by the program tables, the settings loader and the inspector.
+// Used by the program tables, the settings loader and the inspector.
 //
 //     Transaction transaction(model);
 //     transaction.insert(0, Properties{});
@@ -29,11 +29,13 @@ class Transaction {
     explicit Transaction(Model& model);
     Transaction(const Transaction&) = delete;
     Transaction& operator=(const Transaction&) = delete;
-    // Takes back what was not ended: removes created objects, brings erased ones back, restores modified
-    // ones. Objects keep their identity, so that handles stay valid. Cannot fail.
+    // Rolls back unless end() was called: removes created objects, brings erased ones back, restores
+    // modified ones. Objects keep their identity, so that handles stay valid. Cannot fail. Removed objects
+    // are destroyed last, when the model has no open transaction.
     ~Transaction();
 
-    // Gives the object to the model. "Key already exists." unless the key is free or was erased before.
+    // Gives the object to the model. "Key already exists." unless the key is free or was erased before;
+    // also for a key that cannot be told from another one by "<", such as a second number when one is NaN.
     template <Storable T>
     void insert(const Key& key, T object) {
         insertObject(key, {&detail::storedType<T>, std::make_shared<T>(std::move(object))});
@@ -43,8 +45,8 @@ class Transaction {
     // is none.
     void erase(const Key& key);
 
-    // Makes the changes lasting, then tells the observers. When one of them throws, the changes stand, the
-    // others are told, and the first exception is thrown. std::bad_alloc leaves the transaction open.
+    // Commits the changes, then calls the observers. When one of them throws, the changes stand, the others
+    // are called, and the first exception is thrown. std::bad_alloc leaves the transaction open.
     void end();
 
  private:

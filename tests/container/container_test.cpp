@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <random>
 
 namespace {
@@ -46,7 +47,9 @@ TEST(Container, SaysWhyItRefusesAndStaysAsItWas) {
         EXPECT_EQ(failureOf([&] { orphan.modify(); }), "modify() may only be called within a transaction.");
         transaction.insert(1, 1);
         dropped = model.handle<int>(1);
-        EXPECT_EQ(failureOf([&] { transaction.insert(1, 1); }), "Key already exists.");
+        transaction.insert(0.5, 1);
+        for (const Key& key : {Key(1), Key(std::nan(""))})
+            EXPECT_EQ(failureOf([&] { transaction.insert(key, 1); }), "Key already exists.");
         transaction.erase(1);
         EXPECT_EQ(failureOf([&] { transaction.erase(1); }), "Unknown key.");
         transaction.insert(1, std::string("one"));
@@ -65,6 +68,23 @@ TEST(Container, SaysWhyItRefusesAndStaysAsItWas) {
     EXPECT_EQ(model.keys(), Keys{0});
 }
 
+TEST(Rollback, DestroysWhatItRemovesOnceTheModelIsAsItWas) {
+    Model model;
+    Keys seen;
+    put(model, 0, 7);
+    for (const int key : {0, 1}) {
+        Transaction transaction(model);
+        if (key == 0) transaction.erase(0);
+        transaction.insert(key, std::shared_ptr<void>(nullptr, [&](void*) {
+            seen.push_back(model.keys().at(0));
+            put(model, 2 + key, model.read<int>(0));
+        }));
+        if (key == 1) transaction.erase(0);
+    }
+    EXPECT_EQ(seen, (Keys{0, 0}));
+    EXPECT_EQ(model.keys(), (Keys{0, 2, 3}));
+}
+
 TEST(Key, OfAnotherTypeIsAnotherKeyAndTextIsText) {
     std::string text = "0";
     const Keys keys{text, 0, 0U, 0.0, Key(std::in_place, std::pair(0, 0)), 1, std::string_view("0")};
@@ -77,42 +97,42 @@ TEST(Key, OfAnotherTypeIsAnotherKeyAndTextIsText) {
     EXPECT_EQ(std::hash<Key>()(keys[0]), std::hash<Key>()(keys[6]));
 }
 
-TEST(Observers, AreToldOnceInOrderAndMayComeAndGoAndRunTransactions) {
+TEST(Observers, AreCalledOnceInOrderAndMayComeAndGoAndRunTransactions) {
     Model model;
-    Keys told;
+    Keys seen;
     boost::signals2::connection first, second;
     first = model.onChange([&](const Changes&) {
         first.disconnect();
         second.disconnect();
         model.onChange([&](const Changes& changes) {
-            told.insert(told.end(), changes.created.begin(), changes.created.end());
-            told.emplace_back("told");
+            seen.insert(seen.end(), changes.created.begin(), changes.created.end());
+            seen.emplace_back("called");
         });
         put(model, 0, 9);
     });
-    second = model.onChange([&](const Changes&) { ADD_FAILURE() << "disconnected before it was told"; });
+    second = model.onChange([&](const Changes&) { ADD_FAILURE() << "disconnected before its turn"; });
     put(model, 0, 8);
     Transaction transaction(model);
     for (const int key : {3, 1, 2}) transaction.insert(key, key);
     transaction.end();
     Transaction(model).end();
-    EXPECT_EQ(told, (Keys{"told", 3, 1, 2, "told"}));
+    EXPECT_EQ(seen, (Keys{"called", 3, 1, 2, "called"}));
 }
 
 TEST(Observers, MayThrowAndDestroyAllWhileErasedObjectsLive) {
     auto doomed = std::make_unique<Model>();
     put(*doomed, 0, test::Value(7));
     auto last = std::make_unique<Transaction>(*doomed);
-    Keys told;
+    Keys seen;
     for (const char* failure : {"one", "two"})
         doomed->onChange([&, failure](const Changes&) {
             last.reset(), doomed.reset();
-            told.emplace_back(test::Value::alive);
+            seen.emplace_back(test::Value::alive);
             throw std::runtime_error(failure);
         });
     last->erase(0);
     EXPECT_EQ(failureOf([&] { last->end(); }), "one");
-    EXPECT_EQ(told, (Keys{1, 1}));
+    EXPECT_EQ(seen, (Keys{1, 1}));
 }
 
 }  // namespace

@@ -263,6 +263,23 @@ bool has(int database, ElementKind kind, int* count) {
     return held > 0;
 }
 
+// Throws std::invalid_argument, as the public one.
+void addElements(const Project& project, ElementKind kind, int count) {
+    if (count < 1) {
+        throw std::invalid_argument(
+            "Elements to add: expected 1 or more, got " + std::to_string(count) + ".");
+    }
+    const Statement add = prepare(
+        project, "UPDATE elements SET count = count + ?1 WHERE kind = ?2 AND count <= 2147483647 - ?1");
+    sqlite3_bind_int(add.get(), 1, count);
+    sqlite3_bind_int(add.get(), 2, static_cast<int>(kind));
+    step(project, add);
+    if (sqlite3_changes(project.connection.get()) == 0) {
+        throw std::invalid_argument(
+            "Elements to add: " + std::to_string(count) + " more would pass 2147483647 of a kind.");
+    }
+}
+
 }  // namespace
 
 bool hasQuads(int database, int* count) {
@@ -343,21 +360,17 @@ void setBusyTimeout(std::chrono::milliseconds wait) {
 }
 
 void addElements(int database, ElementKind kind, int count) {
-    if (count < 1) {
-        throw std::invalid_argument(
-            "Elements to add: expected 1 or more, got " + std::to_string(count) + ".");
-    }
+    const Project* project = findToChange(database);
+    if (project) addElements(*project, kind, count);
+}
+
+void addElements(int database, const ElementCounts& counts) {
     const Project* project = findToChange(database);
     if (!project) return;
-    const Statement add = prepare(
-        *project, "UPDATE elements SET count = count + ?1 WHERE kind = ?2 AND count <= 2147483647 - ?1");
-    sqlite3_bind_int(add.get(), 1, count);
-    sqlite3_bind_int(add.get(), 2, static_cast<int>(kind));
-    step(*project, add);
-    if (sqlite3_changes(project->connection.get()) == 0) {
-        throw std::invalid_argument(
-            "Elements to add: " + std::to_string(count) + " more would pass 2147483647 of a kind.");
-    }
+    Transaction transaction(*project);
+    for (std::size_t kind = 0; kind < counts.size(); ++kind)
+        if (counts[kind] != 0) addElements(*project, static_cast<ElementKind>(kind), counts[kind]);
+    transaction.commit();
 }
 
 void closeProject(int database) {

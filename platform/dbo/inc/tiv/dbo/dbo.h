@@ -109,6 +109,12 @@ TIV_DBO_EXPORT void setBusyTimeout(std::chrono::milliseconds wait);
 ///     "Elements to add: <count> more would pass 2147483647 of a kind.".
 TIV_DBO_EXPORT void addElements(int database, ElementKind kind, int count);
 
+/// Adds to the numbers of elements of all kinds, in one transaction.
+/// \param database the handle of the project.
+/// \param counts the numbers to add; 0 leaves a kind as it is.
+/// \throws std::invalid_argument as addElements(database, kind, count) for the other counts.
+TIV_DBO_EXPORT void addElements(int database, const ElementCounts& counts);
+
 /// Closes the project. A temporary project is deleted.
 /// \param database the handle of the project.
 TIV_DBO_EXPORT void closeProject(int database);

@@ -2,6 +2,8 @@
 
 #include "apps/echotable/text.h"
 
+#include <QFileInfo>
+
 namespace tiv::tool {
 
 QCommandLineOption settingsOption() {
@@ -13,8 +15,15 @@ QCommandLineOption settingsOption() {
 
 QCommandLineOption projectOption() {
     return {QStringLiteral("project"),
-        QStringLiteral("Project whose elements decide which options apply."),
+        QStringLiteral("Project of --task, whose elements decide which options apply."),
         QStringLiteral("FILE")};
+}
+
+QCommandLineOption taskOption() {
+    return {QStringLiteral("task"),
+        QStringLiteral("Analysis task of --project, in place of PROGRAM and --settings: the program is the "
+                       "task's own, the settings are read from the project and stored there."),
+        QStringLiteral("NAME")};
 }
 
 QCommandLineOption elementsOption() {
@@ -26,7 +35,7 @@ QCommandLineOption elementsOption() {
 
 QCommandLineOption outputOption() {
     return {QStringLiteral("output"),
-        QStringLiteral("File that receives the result, replaced in one step. Default: standard output."),
+        QStringLiteral("Output file, replaced atomically. Default: standard output."),
         QStringLiteral("FILE")};
 }
 
@@ -34,8 +43,10 @@ QCommandLineOption jsonOption() {
     return {QStringLiteral("json"), QStringLiteral("Prints JSON.")};
 }
 
-void writeOutput(const QCommandLineParser& arguments, const QString& text) {
+void writeOutput(const QCommandLineParser& arguments, const QString& text, const QString& project) {
     const QCommandLineOption output = outputOption();
+    if (arguments.isSet(output) && QFileInfo(arguments.value(output)) == QFileInfo(project))
+        throw UsageError(QStringLiteral("--output is the project itself"));
     writeText(arguments.isSet(output) ? arguments.value(output) : standardStream, text);
 }
 

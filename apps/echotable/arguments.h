@@ -1,5 +1,5 @@
-// The verbs of the command line, and what their arguments have in common. A verb lives in the file of its
-// name (the project's in project.cpp); main.cpp lists the verbs, parses and runs.
+// The verbs of the command line, and what their arguments have in common. Each verb has a file of its name;
+// those of `project` are in project.cpp. main.cpp lists the verbs, parses and runs.
 //
 //     Verb show() {
 //         return {"show", {"PROGRAM"}, "Shows the options.", {settingsOption(), jsonOption()}, &run};
@@ -17,7 +17,7 @@
 
 namespace tiv::tool {
 
-// The command line is wrong. Everything else that a verb throws is about what a file holds.
+// The command line is wrong. Any other exception is an input error.
 class UsageError : public std::runtime_error {
  public:
     explicit UsageError(const QString& text) : std::runtime_error(text.toStdString()) {}
@@ -25,12 +25,13 @@ class UsageError : public std::runtime_error {
 
 struct Verb {
     QString name;           // one word or two: "project create"
-    QStringList arguments;  // "PROGRAM"; "[KEY=LEVEL...]" stands for any number, none included
+    QStringList arguments;  // "PROGRAM", not with --task; "[KEY=LEVEL...]" for any number, none included
     QString summary;
     QList<QCommandLineOption> options;
     // Throws UsageError, or std::exception "<file>: <what went wrong>".
     void (*run)(const QCommandLineParser& arguments);
-    // In place of `run`, throws the same and needs no display; what it gives opens the window.
+    // Alternative to `run` for verbs with a window: checks the arguments without a display and returns the
+    // function that opens the window. Throws the same.
     std::function<void()> (*prepare)(const QCommandLineParser& arguments) = nullptr;
 };
 
@@ -39,17 +40,19 @@ Verb show();
 Verb set();
 Verb telinp();
 Verb edit();
-QList<Verb> projectVerbs();  // create, info, store, load
+QList<Verb> projectVerbs();  // create, add, info, store, load, remove
 
 // The options that several verbs take.
-QCommandLineOption settingsOption();  // --settings FILE, read by tableOf (table.h)
+QCommandLineOption settingsOption();  // --settings FILE
 QCommandLineOption projectOption();   // --project FILE and --elements LIST, read by projectOf (project.h)
 QCommandLineOption elementsOption();
+QCommandLineOption taskOption();    // --task NAME, read by taskOf (task.h)
 QCommandLineOption outputOption();  // --output FILE, read by writeOutput
 QCommandLineOption jsonOption();    // --json
 
-// Writes a verb's result where --output says: to standard output if it says nothing. Throws as writeText.
-void writeOutput(const QCommandLineParser& arguments, const QString& text);
+// Writes a verb's result to --output or, without it, to standard output. Throws as writeText, and UsageError
+// if --output is `project`, the project file that the verb has read.
+void writeOutput(const QCommandLineParser& arguments, const QString& text, const QString& project = {});
 
 // "a, b or c": what is accepted, for an error.
 QString choices(const QStringList& words);

@@ -2,6 +2,8 @@
 // arguments, runs it, and turns what went wrong into one line on stderr and the exit code.
 #include "apps/echotable/arguments.h"
 #include "apps/echotable/text.h"
+#include "platform/streams/streams.h"
+#include "tiv/dbo/dbo.h"
 #include "tiv/smartassert/smart_assert.h"
 
 #include <QApplication>
@@ -9,6 +11,7 @@
 #include <QScopeGuard>
 
 #include <algorithm>
+#include <chrono>
 #include <cstdlib>
 #include <functional>
 #include <vector>
@@ -61,7 +64,7 @@ QString generalHelp() {
         "Usage: echotable VERB [arguments] [options]\n"
         "The echo tables of the analysis programs: what their reports print.\n\n"
         "Verbs:\n%1\n"
-        "`echotable VERB --help` tells what the verb takes; --version shows the version.\n")
+        "See `echotable VERB --help` for its arguments; --version shows the version.\n")
         .arg(aligned(rows));
 }
 
@@ -100,7 +103,7 @@ QString unknownVerb(const QStringList& words) {
     return problem + QStringLiteral(", expected ") + choices(begun.isEmpty() ? all : begun);
 }
 
-// `verb` is the one that the words begin with, or null. Gives what opens its window; empty for none.
+// `verb` is the one that the words begin with, or null. Returns the function that opens its window, or an empty one.
 std::function<void()> run(const Verb* verb, const QStringList& words) {
     QCommandLineParser parser;
     parser.addOptions({helpOption(), versionOption()});
@@ -114,8 +117,13 @@ std::function<void()> run(const Verb* verb, const QStringList& words) {
     if (!understood) throw UsageError(parser.errorText().chopped(1));  // the full stop
     for (const QString& word : words)
         if (word.contains(QChar::ReplacementCharacter))  // another file's name could read the same
-            throw UsageError(QStringLiteral("a character of \"%1\" cannot be read").arg(word));
-    checkCount(parser.positionalArguments(), verb->arguments);
+            throw UsageError(
+                QStringLiteral("argument \"%1\" is not valid in the current encoding").arg(word));
+    QStringList expected = verb->arguments;
+    const QStringList given = parser.optionNames();
+    if (given.contains(QStringLiteral("task")) || given.contains(QStringLiteral("all-tasks")))
+        expected.removeAll(QStringLiteral("PROGRAM"));
+    checkCount(parser.positionalArguments(), expected);
     if (verb->prepare) return verb->prepare(parser);
     verb->run(parser);
     return nullptr;
@@ -137,14 +145,14 @@ int exitCodeOf(const QStringList& words, std::function<void()>& window) {
     }
 }
 
-// Without a display Qt says so in many lines, and aborts.
+// Replaces Qt's multi-line abort message when there is no display.
 void onQtMessage(QtMsgType type, const QMessageLogContext& /*context*/, const QString& /*text*/) {
     if (type != QtFatalMsg) return;
     complain(QStringLiteral("edit needs a display"));
     std::_Exit(WrongInput);
 }
 
-// A console of Windows shows bytes in its own code page: until the result is destroyed, in UTF-8.
+// Sets the code page of a Windows console to UTF-8 until the result is destroyed.
 auto utf8Console() {
 #if defined(Q_OS_WIN)
     const UINT before = GetConsoleOutputCP();
@@ -158,6 +166,7 @@ auto utf8Console() {
 }  // namespace
 
 int main(int argc, char** argv) {
+    tiv::streams::reserveClosed();
     [[maybe_unused]] const auto console = utf8Console();
     tiv::smartassert::setReporter([](const tiv::smartassert::Report& report) {
         warn(QStringLiteral("assertion failed: %1 (%2:%3)")
@@ -165,6 +174,7 @@ int main(int argc, char** argv) {
                      QString::fromUtf8(report.source.data(), static_cast<int>(report.source.size())))
                  .arg(report.line));
     });
+    tiv::dbo::setBusyTimeout(std::chrono::seconds(10));
     std::function<void()> window;
     {
         const QCoreApplication withoutDisplay(argc, argv);

@@ -2,10 +2,9 @@
 
 #include "apps/echotable/arguments.h"
 #include "apps/echotable/table.h"
+#include "apps/echotable/task.h"
 #include "apps/echotable/text.h"
 
-#include <QFile>
-#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonObject>
 
@@ -40,10 +39,6 @@ QString fileName(const QCommandLineParser& arguments) {
     return arguments.positionalArguments().constFirst();
 }
 
-int openProject(const QString& file) {
-    return dbo::openProject(file.toStdString());
-}
-
 int countOf(const QCommandLineParser& arguments, const QString& kind) {
     if (!arguments.isSet(kind)) return 0;
     bool isNumber = false;
@@ -54,26 +49,31 @@ int countOf(const QCommandLineParser& arguments, const QString& kind) {
     return count;
 }
 
+// The numbers of --quads, --brics ...
+dbo::ElementCounts countsOf(const QCommandLineParser& arguments) {
+    dbo::ElementCounts counts{};
+    for (const auto& kind : kinds)
+        counts[static_cast<std::size_t>(kind.kind)] = countOf(arguments, QString::fromLatin1(kind.name));
+    return counts;
+}
+
 void create(const QCommandLineParser& arguments) {
     const QString file = fileName(arguments);
     if (file == temporary) throw UsageError(QStringLiteral("expected the name of a file, got ") + file);
-    std::vector<std::pair<dbo::ElementKind, int>> elements;
-    for (const auto& kind : kinds) {
-        const int count = countOf(arguments, QString::fromLatin1(kind.name));
-        if (count > 0) elements.emplace_back(kind.kind, count);
-    }
-    const int database = dbo::createProject(file.toStdString());
-    try {
-        const Project project(database);
-        for (const auto& [kind, count] : elements) dbo::addElements(project.handle, kind, count);
-    } catch (...) {
-        QFile::remove(file);
-        throw;
-    }
+    const Project project(dbo::createProject(file.toStdString(), countsOf(arguments)));
+}
+
+void add(const QCommandLineParser& arguments) {
+    const dbo::ElementCounts counts = countsOf(arguments);
+    if (counts == dbo::ElementCounts{})
+        throw UsageError(
+            QStringLiteral("expected a number of ") + choices(kindNames()) + QStringLiteral(" to add"));
+    const Project project = openProject(fileName(arguments));
+    dbo::addElements(project.handle, counts);
 }
 
 void info(const QCommandLineParser& arguments) {
-    const Project project(openProject(fileName(arguments)));
+    const Project project = openProject(fileName(arguments));
     std::vector<QStringList> rows{{"ELEMENTS", "COUNT"}};
     QJsonObject elements;
     for (const auto& kind : kinds) {
@@ -89,7 +89,7 @@ void info(const QCommandLineParser& arguments) {
         const QString name = QString::fromStdString(task.name);
         const QString program = programName(task.programType);
         const QString settings = QString::fromStdString(task.settings);
-        rows.push_back({name, program, settings.trimmed()});
+        rows.push_back({visible(name), program, visible(settings.trimmed())});
         tasks += QJsonObject{
             {"name", name}, {"number", task.programType}, {"program", program}, {"settings", settings}};
     }
@@ -98,33 +98,47 @@ void info(const QCommandLineParser& arguments) {
     print(arguments.isSet(jsonOption()) ? jsonText(json) : text);
 }
 
+QCommandLineOption defaultsOption() {
+    return {QStringLiteral("defaults"),
+        QStringLiteral("Stores the program's defaults, over a task that exists, too.")};
+}
+
 void store(const QCommandLineParser& arguments) {
     const QString name = arguments.positionalArguments().at(1);
     const auto isControl = [](QChar c) { return c.category() == QChar::Other_Control; };
     if (name.trimmed().isEmpty()) throw UsageError(QStringLiteral("expected a name for the task, got none"));
     if (std::any_of(name.begin(), name.end(), isControl))
         throw UsageError(QStringLiteral("expected a name for the task without control characters"));
-    const Project project(openProject(fileName(arguments)));
+    const bool given = arguments.isSet(settingsOption());
+    const bool mayReset = arguments.isSet(defaultsOption());
+    if (given && mayReset) throw UsageError(QStringLiteral("--settings and --defaults exclude each other"));
+    const Project project = openProject(fileName(arguments));
     const auto table = makeTable(arguments.positionalArguments().at(2), project);
-    if (arguments.isSet(settingsOption())) readSettings(*table, arguments.value(settingsOption()));
-    dbo::storeTask(project.handle,
-        {name.toStdString(), static_cast<int>(table->programType), table->getXMLData().toStdString()});
+    if (given) readSettings(*table, arguments.value(settingsOption()));
+
+    const dbo::Task task{
+        name.toStdString(), static_cast<int>(table->programType), table->getXMLData().toStdString()};
+    if (given || mayReset)
+        dbo::storeTask(project.handle, task);
+    else if (!dbo::changeTasks(project.handle, {{std::nullopt, task}}).empty())
+        throw failure(fileName(arguments),
+            QStringLiteral("task \"%1\" exists, expected --settings or --defaults").arg(name));
+}
+
+TaskName taskArgument(const QCommandLineParser& arguments) {
+    return {fileName(arguments), arguments.positionalArguments().at(1)};
 }
 
 void load(const QCommandLineParser& arguments) {
-    const QString name = arguments.positionalArguments().at(1);
-    const Project project(openProject(fileName(arguments)));
-    if (QFileInfo(arguments.value(outputOption())) == QFileInfo(fileName(arguments)))
-        throw UsageError(QStringLiteral("--output is the project itself"));
-    QStringList names;
-    for (const dbo::Task& task : dbo::tasks(project.handle)) {
-        if (task.name == name.toStdString())
-            return writeOutput(arguments, QString::fromStdString(task.settings));
-        names += QString::fromStdString(task.name);
-    }
-    throw failure(fileName(arguments),
-        names.isEmpty() ? QStringLiteral("no task \"%1\", there are none").arg(name)
-                        : QStringLiteral("no task \"%1\", expected %2").arg(name, choices(names)));
+    const Project project = openProject(fileName(arguments));
+    const dbo::Task task = readTask(project, taskArgument(arguments));
+    writeOutput(arguments, QString::fromStdString(task.settings), fileName(arguments));
+}
+
+void remove(const QCommandLineParser& arguments) {
+    const Project project = openProject(fileName(arguments));
+    const dbo::Task task = readTask(project, taskArgument(arguments));
+    dbo::removeTask(project.handle, task.name);
 }
 
 QList<QCommandLineOption> countOptions() {
@@ -155,12 +169,16 @@ Project projectWith(const QString& elements) {
     return Project(database);
 }
 
+Project openProject(const QString& file) {
+    return Project(dbo::openProject(file.toStdString()));
+}
+
 Project projectOf(const QCommandLineParser& arguments) {
     const QCommandLineOption project = projectOption();
     const QCommandLineOption elements = elementsOption();
     if (arguments.isSet(project) && arguments.isSet(elements))
         throw UsageError(QStringLiteral("--project and --elements exclude each other"));
-    if (arguments.isSet(project)) return Project(openProject(arguments.value(project)));
+    if (arguments.isSet(project)) return openProject(arguments.value(project));
     return projectWith(arguments.isSet(elements) ? arguments.value(elements) : QStringLiteral("all"));
 }
 
@@ -170,9 +188,14 @@ QList<Verb> projectVerbs() {
     return {
         {QStringLiteral("project create"),
             {file},
-            QStringLiteral("Creates a project with so many elements of each kind."),
+            QStringLiteral("Creates a project with the given number of elements of each kind."),
             countOptions(),
             &create},
+        {QStringLiteral("project add"),
+            {file},
+            QStringLiteral("Adds elements to a project."),
+            countOptions(),
+            &add},
         {QStringLiteral("project info"),
             {file},
             QStringLiteral("Shows a project's elements and analysis tasks."),
@@ -181,13 +204,18 @@ QList<Verb> projectVerbs() {
         {QStringLiteral("project store"),
             {file, name, QStringLiteral("PROGRAM")},
             QStringLiteral("Stores settings in a project as the analysis task of that name."),
-            {settingsOption()},
+            {settingsOption(), defaultsOption()},
             &store},
         {QStringLiteral("project load"),
             {file, name},
             QStringLiteral("Prints the settings string of a project's analysis task."),
             {outputOption()},
             &load},
+        {QStringLiteral("project remove"),
+            {file, name},
+            QStringLiteral("Removes an analysis task from a project."),
+            {},
+            &remove},
     };
 }
 

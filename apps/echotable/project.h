@@ -24,6 +24,9 @@ class Project {
 // Throws UsageError.
 Project projectWith(const QString& elements);
 
+// Throws what dbo::openProject throws.
+Project openProject(const QString& file);
+
 // The project that --project or --elements names. Throws UsageError, and what dbo::openProject throws.
 Project projectOf(const QCommandLineParser& arguments);
 

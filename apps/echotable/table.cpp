@@ -64,57 +64,55 @@ std::shared_ptr<Table> makeTable(const QString& program, const Project& project)
     return echo::data::makeInternalData(programType(program), project.handle);
 }
 
-void readSettings(Table& table, const QString& file) {
-    const QString text = readText(file);
+void load(Table& table, const QString& text, const QString& origin) {
     try {
         table.insertXMLData(text);
     } catch (const bond::Exception& problem) {
-        throw failure(inputName(file), QString::fromUtf8(problem.what()));
+        throw failure(origin, QString::fromUtf8(problem.what()));
     }
     const int records = recordCount(text);
     if (records > 1)
-        warn(QStringLiteral("%1: %2 records instead of one, every option was reset")
-                 .arg(inputName(file))
-                 .arg(records));
+        warn(
+            QStringLiteral("%1: %2 records instead of one, every option was reset").arg(origin).arg(records));
 }
 
-std::shared_ptr<Table> tableOf(const QCommandLineParser& arguments) {
-    const QCommandLineOption settings = settingsOption();
-    auto table = makeTable(arguments.positionalArguments().constFirst(), projectOf(arguments));
-    if (arguments.isSet(settings)) readSettings(*table, arguments.value(settings));
-    return table;
+void readSettings(Table& table, const QString& file) {
+    const QString text = readText(file);
+    if (text.trimmed().isEmpty() && !rowsOf(table).empty())
+        throw failure(inputName(file), QStringLiteral("no settings"));
+    load(table, text, inputName(file));
 }
 
 void requireOptions(const Table& table) {
-    if (optionsOf(table).empty())
+    if (rowsOf(table).empty())
         throw UsageError(
             programName(static_cast<int>(table.programType)) + QStringLiteral(" has no options"));
 }
 
-std::vector<Option> optionsOf(const Table& table) {
-    std::vector<Option> options;
+std::vector<TableRow> rowsOf(const Table& table) {
+    std::vector<TableRow> rows;
     const auto* program = dynamic_cast<const echo::data::ProgramData*>(&table);
-    if (!program) return options;
+    if (!program) return rows;
     for (const auto& property : table.properties->list)
-        options.push_back({property, program->servedType()->options[property->field->id].number});
-    return options;
+        rows.push_back({property, program->servedType()->options[property->field->id].number});
+    return rows;
 }
 
-QString fieldName(const Option& option) {
-    return QString::fromLatin1(option.property->field->name);
+QString fieldName(const TableRow& row) {
+    return QString::fromLatin1(row.property->field->name);
 }
 
-Option optionNamed(const Table& table, const QString& name) {
+TableRow rowNamed(const Table& table, const QString& name) {
     QStringList fields;
-    for (const Option& option : optionsOf(table)) {
-        if (name == fieldName(option) || name == QString::fromStdString(option.property->key)) return option;
-        fields += fieldName(option);
+    for (const TableRow& row : rowsOf(table)) {
+        if (name == fieldName(row) || name == QString::fromStdString(row.property->key)) return row;
+        fields += fieldName(row);
     }
     throw UsageError(QStringLiteral("unknown option \"%1\", expected %2").arg(name, choices(fields)));
 }
 
-OutPutType levelOf(const Table& table, const Option& option) {
-    const QVariant level = properties::value(*option.property, *table.model, echo::data::recordKey());
+OutPutType levelOf(const Table& table, const TableRow& row) {
+    const QVariant level = properties::value(*row.property, *table.model, echo::data::recordKey());
     return static_cast<OutPutType>(level.toInt());
 }
 
@@ -128,26 +126,26 @@ QString word(OutPutType level) {
     return QStringLiteral("#%1").arg(level);
 }
 
-QStringList offeredWords(const Option& option) {
+QStringList offeredWords(const TableRow& row) {
     QStringList words;
-    for (const properties::NamedValue& level : echo::data::offeredLevels(option.property->key))
+    for (const properties::NamedValue& level : echo::data::offeredLevels(row.property->key))
         words += word(static_cast<OutPutType>(level.value.toInt()));
     return words;
 }
 
-OutPutType levelNamed(const Option& option, const QString& text) {
+OutPutType levelNamed(const TableRow& row, const QString& text) {
     bool isNumber = false;
     const int number = text.startsWith(QLatin1Char('#')) ? text.mid(1).toInt(&isNumber) : 0;
     if (isNumber) return static_cast<OutPutType>(number);
 
-    const QStringList offered = offeredWords(option);
+    const QStringList offered = offeredWords(row);
     for (const bond::Enumerator& known : echo::outPutTypes) {
         const auto level = static_cast<OutPutType>(known.value);
         const bool isMeant = text == QLatin1String(known.name) || text == word(level);
         if (isMeant && offered.contains(word(level))) return level;
     }
     throw UsageError(QStringLiteral("%1 does not offer the level \"%2\", expected %3, or #NUMBER")
-                         .arg(fieldName(option), text, choices(offered)));
+                         .arg(fieldName(row), text, choices(offered)));
 }
 
 }  // namespace tiv::tool

@@ -4,10 +4,9 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
-#include <QTextCodec>
-#include <QVector>
 
 #include <algorithm>
+#include <cerrno>
 #include <cstdio>
 
 namespace tiv::tool {
@@ -22,6 +21,12 @@ QString inputName(const QString& file) {
 
 namespace {
 
+// What the file last failed with.
+QString reasonOf(const QFileDevice& file) {
+    const QString reason = file.errorString();
+    return reason == qt_error_string(EBADF) ? QStringLiteral("closed") : reason;
+}
+
 constexpr int longest = 64 << 20;  // bytes of a settings text
 
 // All of a text that is not too long.
@@ -35,13 +40,26 @@ QByteArray start(QFile& file) {
     return bytes;
 }
 
-// Whether the name leads to a file by a link of the system, as "/dev/stdout" does.
-bool isRedirected(QFileInfo file) {
-    for (; file.isSymLink(); file.setFile(file.symLinkTarget())) {
+// UTF-16 after its byte-order mark, otherwise UTF-8.
+QString decoded(const QByteArray& bytes) {
+    if (!bytes.startsWith("\xff\xfe") && !bytes.startsWith("\xfe\xff")) return QString::fromUtf8(bytes);
+    const auto size = bytes.size() / sizeof(char16_t);
+    return QString::fromUtf16(reinterpret_cast<const char16_t*>(bytes.constData()), int(size));
+}
+
+// The file at the end of the links that `name` leads to. A link in /dev or /proc leads to no file: "/dev/stdout"
+// is the standard output, and replacing the file that the shell has redirected it to would hide it.
+QString linkedFile(const QString& name) {
+    constexpr int mostLinks = 40;  // as Linux follows
+    QFileInfo file(name);
+    for (int links = 0; file.isSymLink(); ++links) {
         const QString path = file.absoluteFilePath();
-        if (path.startsWith(QLatin1String("/dev/")) || path.startsWith(QLatin1String("/proc/"))) return true;
+        if (path.startsWith(QLatin1String("/dev/")) || path.startsWith(QLatin1String("/proc/")))
+            throw failure(name, QStringLiteral("not a file"));
+        if (links == mostLinks) throw failure(name, QStringLiteral("too many links"));
+        file.setFile(file.symLinkTarget());
     }
-    return false;
+    return file.filePath();
 }
 
 }  // namespace
@@ -56,25 +74,25 @@ QString readText(const QString& name) {
     const QByteArray bytes = open ? start(file) : QByteArray();
     bool failed = file.error() != QFileDevice::NoError;
 #if defined(Q_OS_WIN)
-    // Qt takes the end of a pipe for an error; elsewhere it leaves one behind in stdin while it waits.
+    // QFile reports the end of a pipe as an error; elsewhere a slow writer can leave one set in stdin.
     if (piped) failed = !open || std::ferror(stdin) != 0;
 #endif
-    if (failed) throw failure(inputName(name), file.errorString());
+    if (failed) throw failure(inputName(name), reasonOf(file));
     if (bytes.size() > longest) throw failure(inputName(name), QStringLiteral("longer than 64 MiB"));
-    QString text = QTextCodec::codecForUtfText(bytes, QTextCodec::codecForName("UTF-8"))->toUnicode(bytes);
-    return text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    return decoded(bytes).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
 }
 
 void writeText(const QString& name, const QString& text) {
     if (name == standardStream) return print(text);
-    const QFileInfo present(name);
-    if (present.exists() && (!present.isFile() || isRedirected(present)))  // it would be replaced as well
-        throw failure(name, QStringLiteral("not a file"));
-    if (!present.dir().exists()) throw failure(name, QStringLiteral("no such folder"));
-    QSaveFile file(name);
-    if (!file.open(QIODevice::WriteOnly)) throw failure(name, file.errorString());
-    file.write(text.toUtf8());
-    if (!file.commit()) throw failure(name, file.errorString());
+    const QFileInfo target(linkedFile(name));
+    if (target.exists() && !target.isFile()) throw failure(name, QStringLiteral("not a file"));
+    if (!target.dir().exists()) throw failure(name, QStringLiteral("no such folder"));
+    const QByteArray bytes = text.toUtf8();
+    QSaveFile file(target.filePath());
+    // QSaveFile::commit() of Qt 5.15 ignores a flush that fails, and replaces the file by a shorter one.
+    const bool written =
+        file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush() && file.commit();
+    if (!written) throw failure(name, file.errorString());
 }
 
 void print(const QString& text) {
@@ -82,16 +100,30 @@ void print(const QString& text) {
     QFile file;
     const bool written =
         file.open(stdout, QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush();
-    if (!written) throw failure(QStringLiteral("standard output"), file.errorString());
+    if (!written) throw failure(QStringLiteral("standard output"), reasonOf(file));
 }
 
 void complain(const QString& text) {
-    const QString line = QString(text).replace(QLatin1Char('\n'), QLatin1String("\\n"));
-    std::fprintf(stderr, "echotable: %s\n", line.toUtf8().constData());
+    std::fprintf(stderr, "echotable: %s\n", visible(text).toUtf8().constData());
 }
 
 void warn(const QString& text) {
     complain(QStringLiteral("warning: ") + text);
+}
+
+QString visible(const QString& text) {
+    QString result;
+    for (const QChar c : text) {
+        if (c.category() != QChar::Other_Control)
+            result += c;
+        else if (c == QLatin1Char('\n'))
+            result += QLatin1String("\\n");
+        else if (c == QLatin1Char('\t'))
+            result += QLatin1String("\\t");
+        else
+            result += QStringLiteral("\\x%1").arg(c.unicode(), 2, 16, QLatin1Char('0'));
+    }
+    return result;
 }
 
 QString jsonText(const QJsonDocument& document) {
@@ -99,15 +131,15 @@ QString jsonText(const QJsonDocument& document) {
 }
 
 QString aligned(const std::vector<QStringList>& rows) {
-    QVector<int> widths;
+    std::vector<qsizetype> widths;
     for (const QStringList& row : rows) {
-        widths.resize(std::max(widths.size(), row.size()));
-        for (int i = 0; i < row.size(); ++i) widths[i] = std::max(widths[i], row[i].size());
+        widths.resize(std::max(widths.size(), std::size_t(row.size())));
+        for (int i = 0; i < row.size(); ++i) widths[i] = std::max(widths[i], qsizetype(row[i].size()));
     }
     QString text;
     for (const QStringList& row : rows) {
         QString line;
-        for (int i = 0; i < row.size(); ++i) line += row[i].leftJustified(widths[i] + 2);
+        for (int i = 0; i < row.size(); ++i) line += row[i].leftJustified(int(widths[i]) + 2);
         while (line.endsWith(QLatin1Char(' '))) line.chop(1);
         text += line + QLatin1Char('\n');
     }

@@ -19,11 +19,12 @@ std::runtime_error failure(const QString& file, const QString& reason);
 // What an input is called in errors: its file name, or "standard input".
 QString inputName(const QString& file);
 
-// The text of a file. A byte-order mark decides the encoding and is left out; CR LF is read as LF: editors
-// and shells on Windows write both. Throws failure().
+// The text of a file, UTF-8, or UTF-16 after a byte-order mark. The mark is left out and CR LF read as LF:
+// editors and shells on Windows write both. Throws failure().
 QString readText(const QString& file);
 
-// Replaces the file in one step; a file that cannot be written completely stays as it was. Throws failure().
+// Replaces the file atomically, behind links too; one that cannot be written completely stays as it was.
+// Throws failure().
 void writeText(const QString& file, const QString& text);
 
 // To standard output. Throws failure() also when the device takes less than all.
@@ -33,6 +34,9 @@ void print(const QString& text);
 void complain(const QString& text);
 // "echotable: warning: <text>"
 void warn(const QString& text);
+
+// The text with its control characters as "\n", "\t" or "\x1b": they would change a line or the terminal.
+QString visible(const QString& text);
 
 QString jsonText(const QJsonDocument& document);
 

@@ -1,6 +1,7 @@
 // The window of `echotable edit`.
 #include "apps/echotable/arguments.h"
 #include "inspector/driver.h"
+#include "tiv/dbo/dbo.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -8,6 +9,7 @@
 #include <QFile>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -15,67 +17,116 @@
 
 namespace {
 
-void press(QDialogButtonBox::StandardButton button) {
-    QApplication::activeModalWidget()->findChild<QDialogButtonBox*>()->button(button)->click();
+using Button = QMessageBox::StandardButton;
+
+// By a button of the window, Escape (NoButton) or the title bar (Close).
+void leave(test::Driver window, Button how) {
+    if (how == Button::NoButton) return window.key(Qt::Key_Escape);
+    if (how == Button::Close) return void(window.widget->close());
+    window.widget->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::StandardButton(how))->click();
 }
 
 // Opens the window and runs the steps in it; the last one closes it.
-void edit(const QString& file, const std::function<void(test::Driver)>& steps) {
+void edit(const QStringList& words, const std::function<void(test::Driver)>& steps) {
     const tiv::tool::Verb verb = tiv::tool::edit();
     QCommandLineParser arguments;
     arguments.addOptions(verb.options);
-    ASSERT_TRUE(arguments.parse({"echotable", "esk", "--settings", file}));
-    QTimer timer;
-    timer.setSingleShot(true);
-    QObject::connect(
-        &timer, &QTimer::timeout, [&] { steps(test::Driver(QApplication::activeModalWidget())); });
-    timer.start(0);
+    ASSERT_TRUE(arguments.parse(QStringList("echotable") + words));
+    QTimer::singleShot(0, qApp, [&] {
+        QWidget* window = QApplication::activeModalWidget();
+        EXPECT_EQ(window->focusWidget(), window->findChild<QTreeView*>());
+        EXPECT_LE(window->width(), window->screen()->availableSize().width());
+        EXPECT_LE(window->height(), window->screen()->availableSize().height());
+        steps(test::Driver(window));
+    });
     verb.prepare(arguments)();
 }
 
-QString textOf(const QString& name) {
-    QFile file(name);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QStringLiteral("no file");
+// The question or error that the action opens, which is then answered.
+std::string asked(Button answer, const std::function<void()>& action) {
+    QString text;
+    QTimer::singleShot(0, qApp, [&] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (!box) return;
+        text = box->text();
+        box->button(answer)->click();
+    });
+    action();
+    test::settle();
+    return text.toStdString();
 }
 
-TEST(EditWindow, SavesOnOkOnly) {
+TEST(EditWindow, LosesNoEditWithoutAQuestion) {
     const QTemporaryDir folder;
-    const QString file = folder.filePath("static.txt");
+    QFile file(folder.filePath("static.txt"));
+    const std::string question = "static.txt has unsaved changes.";
     const struct {
         const char *before, *chosen;
-        QDialogButtonBox::StandardButton pressed;
+        Button left;
+        std::string asked;
+        Button answer;
         const char* saved;
     } steps[] = {
-        {"Default output", "Full output", QDialogButtonBox::Cancel, "no file"},
-        {"Default output", "Full output", QDialogButtonBox::Ok, "ClAGAAA=\n"},
-        {"Full output*", "No output", QDialogButtonBox::Cancel, "ClAGAAA=\n"},
+        {"Default output", "Default output", Button::NoButton, "", Button::Discard, ""},
+        {"Default output", "Full output", Button::NoButton, question, Button::Discard, ""},
+        {"Default output", "Full output", Button::Ok, "", Button::Discard, "ClAGAAA=\n"},
+        {"Full output*", "No output", Button::Cancel, question, Button::Discard, "ClAGAAA=\n"},
+        {"Full output*", "No output", Button::Close, question, Button::Save, "ClACAAA=\n"},
+        {"No output*", "Full output", Button::Close, question, Button::Cancel, "ClACAAA=\n"},
     };
     for (const auto& step : steps) {
-        edit(file, [&](test::Driver window) {
-            EXPECT_EQ(window.widget->windowTitle(), "static.txt - esk");
+        edit({"esk", "--settings", file.fileName()}, [&](test::Driver window) {
+            EXPECT_EQ(window.widget->windowTitle(), "static.txt[*] - esk");
             EXPECT_EQ(window.row("Loads"), step.before);
             window.choose("Loads", step.chosen);
-            press(step.pressed);
+            EXPECT_EQ(window.widget->isWindowModified(), QString(step.before).remove('*') != step.chosen);
+            EXPECT_EQ(asked(step.answer, [&] { leave(window, step.left); }), step.asked);
+            EXPECT_EQ(window.widget->isVisible(), step.answer == Button::Cancel);
+            if (window.widget->isVisible()) asked(Button::Discard, [&] { leave(window, Button::Cancel); });
         });
-        EXPECT_EQ(textOf(file), step.saved);
+        EXPECT_EQ(file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray(), step.saved);
+        file.close();
     }
 }
 
 TEST(EditWindow, StaysOpenWhenItCannotSave) {
-    const QTemporaryDir folder;
-    const QString file = folder.filePath("missing/static.txt");
-    edit(file, [&](test::Driver window) {
+    const QString file = QTemporaryDir().filePath("static.txt");  // its folder is gone
+    edit({"esk", "--settings", file}, [&](test::Driver window) {
         window.choose("Loads", "Full output");
-        QTimer::singleShot(0, qApp, [&] {
-            auto* message = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            ASSERT_TRUE(message);
-            EXPECT_EQ(message->text(), file + ": no such folder");
-            message->accept();
-        });
-        press(QDialogButtonBox::Ok);
+        EXPECT_EQ(
+            asked(Button::Ok, [&] { leave(window, Button::Ok); }), file.toStdString() + ": no such folder");
+        EXPECT_TRUE(window.widget->isVisible());
         EXPECT_EQ(window.row("Loads"), "Full output*");
-        press(QDialogButtonBox::Cancel);
+        asked(Button::Discard, [&] { leave(window, Button::Cancel); });
     });
+}
+
+TEST(EditWindow, AsksInGermanBeforeItSavesOverAnotherProgramsChange) {
+    const QTemporaryDir folder;
+    const QString file = folder.filePath("P");
+    const int project = tiv::dbo::createProject(file.toStdString());
+    const auto settings = [&] { return tiv::dbo::tasks(project)[0].settings; };
+    tiv::dbo::storeTask(project, {"static", 3, "CgAA\n"});
+    const QFont font = QApplication::font();
+    QApplication::setFont(QFont(font.family(), 24));
+    test::speak(true);
+    edit({"--project", file, "--task", "static"}, [&](test::Driver window) {
+        EXPECT_EQ(window.widget->windowTitle(), "P: static[*] - esk");
+        const auto* cancel = window.widget->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Cancel);
+        EXPECT_EQ(cancel->text().remove('&'), "Abbrechen");
+        window.choose("Lasten", "Vollständige Ausgabe");
+        tiv::dbo::storeTask(project, {"static", 3, "ClACAAA=\n"});
+        for (const Button answer : {Button::Cancel, Button::Save}) {
+            EXPECT_EQ(settings(), "ClACAAA=\n");
+            EXPECT_EQ(asked(answer, [&] { leave(window, Button::Ok); }),
+                "static wurde von einem anderen Programm geändert. Trotzdem speichern?");
+            EXPECT_EQ(window.widget->isVisible(), answer == Button::Cancel);
+        }
+    });
+    test::speak(false);
+    QApplication::setFont(font);
+    EXPECT_EQ(settings(), "ClAGAAA=\n");
+    tiv::dbo::closeProject(project);
 }
 
 }  // namespace

@@ -5,14 +5,13 @@ set -euo pipefail
 sources=$1 scratch=$2
 export LUPDATE=$3
 rm -rf "$scratch"
-mkdir -p "$scratch/apps"
-cp -r "$sources"/{echo,properties,cmake} "$scratch"
-cp -r "$sources/apps/echohost" "$scratch/apps"
-for catalogue in echo/i18n/tiv_echotable_dll apps/echohost/echohost; do
+mkdir -p "$scratch"
+cp -r "$sources"/{apps,echo,properties,cmake} "$scratch"
+for catalogue in echo/i18n/tiv_echotable_dll apps/{echohost/echohost,echotable/echotable}; do
     echo '<TS version="2.1" language="fr_FR" sourcelanguage="en"/>' >"$scratch/${catalogue}_fr.ts"
 done
 "$scratch/cmake/translations.sh" "$scratch" 2>/dev/null
-for catalogue in echo/i18n/tiv_echotable_dll apps/echohost/echohost; do
+for catalogue in echo/i18n/tiv_echotable_dll apps/{echohost/echohost,echotable/echotable}; do
     german=$scratch/${catalogue}_de.ts
     diff -u "$sources/${catalogue}_de.ts" "$german"
     if grep -n unfinished "$german"; then exit 1; fi

@@ -14,7 +14,7 @@ abidw --suppressions "$abi/ours.ini" --no-show-locs --no-corpus-path --no-comp-d
     --no-architecture --no-parameter-names --out-file "$current" "$library"
 grep -q '<abi-instr' "$current" || { echo "$library: has no debug information" && exit 1; }
 symbols() {
-    nm --dynamic --defined-only "$library" | awk '{ print $3 }' | sort
+    nm --dynamic --defined-only --extern-only "$library" | awk '{ print $3 }' | sort
 }
 if [ "$1" = --renew ]; then
     cp "$current" "$baseline"

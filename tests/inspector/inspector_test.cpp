@@ -83,7 +83,8 @@ TEST(Inspector, ShowsTheApplicableOptionsInOrderWithExactlyTheirLevels) {
                 EXPECT_EQ(driver.list()->font().family(), "DejaVu Serif");
                 EXPECT_EQ(driver.list()->layoutDirection(), widget->layoutDirection());
                 EXPECT_TRUE(screen.contains(list)) << o.label.toStdString();
-                EXPECT_FALSE(list.intersects(cell.translated(driver.view->viewport()->mapToGlobal(QPoint()))));
+                EXPECT_FALSE(
+                    list.intersects(cell.translated(driver.view->viewport()->mapToGlobal(QPoint()))));
                 driver.key(Qt::Key_Escape);
                 EXPECT_FALSE(driver.list());
             }

@@ -2,6 +2,7 @@
 #include "bench/rooms.h"
 #include "bench/sample.h"
 #include "bond/exceptions.h"
+#include "echo/src/internal_data.h"
 
 #include <memory>
 #include <stdexcept>
@@ -43,7 +44,7 @@ void insertBroken(EchoData& echo) {
 // Tables of every type, made, loaded, saved and written as lines; all are kept.
 Work wholeLives(int /*runs*/) {
     std::vector<QString> settings;
-    for (unsigned type = 0; type < 14; ++type)
+    for (unsigned type = 0; type < tiv::echo::data::programTypeCount; ++type)
         settings.push_back(
             settingsString(static_cast<EchoData::ProgrammTypes>(type), R"({"prop":{"0":1,"1":2}})"));
     auto alive = std::make_shared<std::vector<std::unique_ptr<EchoData>>>();

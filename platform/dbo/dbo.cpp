@@ -43,7 +43,7 @@ struct Project {
 };
 
 std::mutex projectsMutex;  // for the three below; a project itself belongs to one thread
-std::map<int, Project> projects;
+std::map<int, Project>& projects = *new std::map<int, Project>;  // never destroyed: for a host's last calls
 int lastHandle = 0;
 std::chrono::milliseconds busyTimeout{500};
 

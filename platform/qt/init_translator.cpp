@@ -82,6 +82,7 @@ TIV_QT_InitTranslator* installer = nullptr;
 
 TIV_QT_InitTranslator::TIV_QT_InitTranslator(const char* catalogue)
     : catalogue_(QString::fromLatin1(catalogue)) {
+    keepLibraryLoaded();
     installer = this;
     if (QCoreApplication::instance())
         install();

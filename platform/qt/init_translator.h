@@ -18,7 +18,7 @@ namespace tiv::qt {
 
 class TIV_QT_InitTranslator {
  public:
-    // One per library. A library loaded before the application object must stay loaded.
+    // One per library, which then stays loaded: Qt keeps a pointer to its start-up function.
     explicit TIV_QT_InitTranslator(const char* catalogue);
     // Removes the catalogue.
     ~TIV_QT_InitTranslator();
@@ -35,5 +35,7 @@ class TIV_QT_InitTranslator {
 
 // The folder of the library that contains this code. Implemented per operating system.
 QString libraryFolder();
+// Keeps that library loaded until the process ends.
+void keepLibraryLoaded();
 
 }  // namespace tiv::qt

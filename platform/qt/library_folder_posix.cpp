@@ -12,4 +12,6 @@ QString libraryFolder() {
     return QFileInfo(QString::fromLocal8Bit(info.dli_fname)).absolutePath();
 }
 
+void keepLibraryLoaded() {}  // linked with -z nodelete
+
 }  // namespace tiv::qt

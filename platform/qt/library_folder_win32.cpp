@@ -18,4 +18,10 @@ QString libraryFolder() {
     return QFileInfo(QString::fromWCharArray(path.data(), static_cast<int>(length))).absolutePath();
 }
 
+void keepLibraryLoaded() {
+    HMODULE module = nullptr;
+    const DWORD flags = GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_PIN;
+    GetModuleHandleExW(flags, reinterpret_cast<LPCWSTR>(&keepLibraryLoaded), &module);
+}
+
 }  // namespace tiv::qt

@@ -6,8 +6,8 @@
 namespace tiv::smartassert {
 namespace {
 
-Reporter current;        // empty: the default
-bool reporting = false;  // a reporter is running
+Reporter& current = *new Reporter;  // empty: the default. Never destroyed: for a host's last calls
+bool reporting = false;             // a reporter is running
 
 int printable(std::string_view text) {
     return static_cast<int>(text.size());

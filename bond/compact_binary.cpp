@@ -38,8 +38,8 @@ constexpr unsigned idInOneByte = 6;  // in place of a short id
 constexpr unsigned idInTwoBytes = 7;
 constexpr unsigned greatestDepth = 64;
 
-// How a field is written, and the narrowest type it is read from. The wire's types from the narrowest
-// to its own are those that widening turns into its own.
+// The wire type that a field is written as, and the narrowest one that it is read from. Every wire type in
+// [narrowest, own] can be widened to `own`.
 struct WireForm {
     WireType own;
     WireType narrowest;
@@ -190,8 +190,8 @@ class Reader {
     void readValue(WireType type, T& value);
     std::uint64_t readInteger(WireType type);
 
-    // Each passes over values, whose bytes it checks only for where they end. `depth` is the level of
-    // the record or container they lie in.
+    // Skip values; their bytes are only inspected to find the end. `depth` is the nesting level of the
+    // record or container that holds them.
     void skip(WireType type, std::uint64_t times, unsigned depth);
     void skipElements(unsigned depth);
     void skipPairs(unsigned depth);
@@ -230,7 +230,7 @@ Number Reader::lowByteFirst() {
     return number;
 }
 
-// What the greatest allowed byte and bits above the 64th say is dropped.
+// The continuation bit of the last allowed byte, and bits above the 64th, are ignored.
 std::uint64_t Reader::varint(unsigned maximumBytes) {
     std::uint64_t number = 0;
     for (unsigned i = 0; i < maximumBytes; ++i) {
@@ -367,7 +367,7 @@ void Reader::skipElements(unsigned depth) {
     skip(type, count(), depth);
 }
 
-// The types of a map fill their bytes: other bits than those of a type make them unknown.
+// Map key and value types use the whole byte, without the mask, so stray high bits make the type unknown.
 void Reader::skipPairs(unsigned depth) {
     const auto key = static_cast<WireType>(byte());
     const auto value = static_cast<WireType>(byte());

@@ -37,7 +37,7 @@
 //      11 List, 12 Set           one byte with the elements' type in bits 4 to 0, varint n, n values
 //      13 Map                    one byte with the keys' type, one with the values' type, varint n, n pairs
 //
-//     varint     seven bits a byte, lowest first; bit 7 says that another byte follows.
+//     varint     seven bits a byte, lowest first; bit 7 is set if another byte follows.
 //                A reader takes at most 3, 5 or 10 bytes for 16, 32 or 64 bits.
 #pragma once
 
@@ -64,19 +64,19 @@ Bytes writeCompactBinary(const Record& record) {
 }
 
 // Reads the bytes into `record`, a fresh object of the type that `description` describes: fields that
-// the bytes lack keep their default. Accepted and left alone are
+// the bytes lack keep their default. Skipped without error:
 //   - unknown fields, base records, and whatever follows the outermost Stop;
-//   - a known field after one of the same or a higher id: of several values the first counts;
-//   - a known field of another type, unless widening the wire's number is all it needs: Int8 and Int16
-//     are read into an Int32, UInt8 and UInt16 into a UInt32, Float into a Double.
+//   - a known field after one of the same or a higher id: of several values the first is used;
+//   - a known field of another type, unless the wire type is a narrower number of the same kind: Int8 and
+//     Int16 are read into an Int32, UInt8 and UInt16 into a UInt32, Float into a Double.
 //
 // Throws, with the record partly filled,
 //   StreamException "Read out of bounds: <n> bytes requested, offset: <position>, length: <bytes>"
 //   CoreException "Max recursion depth exceeded"   records and containers nested deeper than 64; the
 //                                                  outermost record is the first level
-//   CoreException "Unknown data type found"        a value of a type above 18, whose end nobody knows.
-//                                                  A known field that is no record is let pass: the
-//                                                  format's first reader takes it to have no value
+//   CoreException "Unknown data type found"        a value of a type above 18, whose length is unknown.
+//                                                  Not for a known field that is no record: it is treated
+//                                                  as empty, as the reference implementation does
 // The work is linear in the number of bytes, whatever lengths and counts they claim.
 void readCompactBinary(const Struct& description, void* record, std::span<const std::byte> bytes);
 

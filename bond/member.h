@@ -1,4 +1,4 @@
-// A field's member as what it is, for code that walks rows: the codec, the property definitions.
+// Gives code that walks rows typed access to a field's member: the codec, the property definitions.
 //
 //     visitMember(row, record, [&](const auto& value) { print(value); });   // record: const void*
 //     visitMember(row, record, [&](auto& value) { value = {}; });           // record: void*
@@ -13,7 +13,7 @@ namespace bond {
 
 namespace detail {
 
-// The field's member, taken to be a T. `Record` is void or const void.
+// The field's member as a T. `Record` is void or const void.
 template <class T, class Record>
 auto& memberAs(const Row& row, Record* record) {
     return *static_cast<std::conditional_t<std::is_const_v<Record>, const T, T>*>(row.in(record));
@@ -57,7 +57,7 @@ auto visitMember(const Row& row, Record* record, Visit visit) {
         case Type::Struct:
             break;
     }
-    // Through a copy: an object of an enumeration may not be reached as an int.
+    // Through a copy: the language does not allow access to an enumeration's object as an int.
     std::int32_t number = 0;
     std::memcpy(&number, row.in(record), sizeof number);
     if constexpr (std::is_const_v<Record>) {

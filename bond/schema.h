@@ -9,8 +9,8 @@
 //     }
 //
 // A field's id is its position in the table, its schema default is the member's initialiser.
-// structOf<Properties>() lowers the table to plain rows. The codec, the property definitions and
-// the line writers walk those rows; nothing else knows a record's fields.
+// structOf<Properties>() lowers the table to plain rows, which the codec, the property definitions and the
+// line writers walk. The fields of a record are stated nowhere else.
 #pragma once
 
 #include <array>
@@ -223,12 +223,12 @@ Row lower(const Record& defaults, const Field<Record, Member, N>& field, std::si
 
 }  // namespace detail
 
-// The lowered description of a record; made on first use and kept for the life of the process.
+// The lowered description of a record, made at the first call. Never destroyed.
 template <class Record>
 const Struct& structOf() {
     static_assert(!detail::repeatsMember(description<Record>.fields),
         "<=== a member stands twice in the record's describe()");
-    static const Record defaults{};
+    static const Record& defaults = *new Record{};
     static const auto rows = std::apply(
         [](const auto&... fields) {
             std::size_t id = 0;

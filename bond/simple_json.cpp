@@ -21,7 +21,7 @@ using Json = rapidjson::Value;
 
 constexpr const char* jsonName = "JsonName";
 
-// Names are compared up to their first NUL.
+// Names are compared up to their first NUL, because the reference implementation compares C strings.
 const char* nameIn(const Json& text) {
     return text.GetString();
 }
@@ -62,7 +62,7 @@ bool readValue(const Json& json, T& value) {
         if (!json.IsBool()) return false;
         value = json.GetBool();
     } else if constexpr (std::is_floating_point_v<T>) {
-        // The greatest float as text may be read as a double that is a little more.
+        // The greatest float, printed and read as a double, can be slightly above it.
         if (!json.IsNumber() || !std::isfinite(static_cast<T>(json.GetDouble()))) return false;
         value = static_cast<T>(json.GetDouble());
     } else if constexpr (std::is_unsigned_v<T>) {

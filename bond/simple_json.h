@@ -26,13 +26,14 @@ std::string writeSimpleJson(const Record& record) {
 
 // Reads UTF-8 text into `record`, a fresh object of the type that `description` describes: fields that
 // the text lacks keep their default.
-//   - A field is found under its exact name or its id in decimal ("0", also "+0" or "00"); names end at
-//     their first NUL. Of several members that name it the first of a fitting JSON type counts.
+//   - A field is found under its exact name or its id in decimal ("0", also "+0" or "00"). Names end at
+//     their first NUL, because the reference implementation compares C strings. Of several members for one
+//     field, the first of a fitting JSON type is used.
 //   - Fitting: true or false for Bool; a whole number within its range for an integer; a number that is
 //     within its range when rounded for Float and Double (17 digits may be off by the last bits); a text
 //     for String; an object for a record; for an enumeration a whole number of 32 bits, listed or not, or
 //     a text. A text that is no enumerator's exact name leaves the default.
-//   - Other members, and whatever follows the document, are passed over. A document that is no object
+//   - Other members, and whatever follows the document, are ignored. A document that is no object
 //     gives the defaults.
 //
 // Throws CoreException "JSON parser error: <RapidJSON's message> at offset <bytes>"; `record` is then as

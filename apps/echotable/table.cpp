@@ -30,7 +30,7 @@ constexpr const char* names[] = {"qsx.bruc",
     "tiviload",
     "kurta",
     "rova"};
-static_assert(std::size(names) == EchoData::ROVA + 1);
+static_assert(std::size(names) == echo::data::programTypeCount);
 
 EchoData::ProgrammTypes programType(const QString& program) {
     const QStringList known = programNames();
@@ -40,12 +40,6 @@ EchoData::ProgrammTypes programType(const QString& program) {
     throw UsageError(QStringLiteral("unknown program \"%1\", expected %2, or a number from 0 to %3")
                          .arg(program, known.join(QStringLiteral(", ")))
                          .arg(known.size() - 1));
-}
-
-int recordCount(QStringView text) {
-    int count = 0;
-    while (!echo::data::nextLine(text).isEmpty()) ++count;
-    return count;
 }
 
 }  // namespace
@@ -70,7 +64,7 @@ void load(Table& table, const QString& text, const QString& origin) {
     } catch (const bond::Exception& problem) {
         throw failure(origin, QString::fromUtf8(problem.what()));
     }
-    const int records = recordCount(text);
+    const int records = echo::data::recordCount(text);
     if (records > 1)
         warn(
             QStringLiteral("%1: %2 records instead of one, every option was reset").arg(origin).arg(records));
@@ -128,8 +122,7 @@ QString word(OutPutType level) {
 
 QStringList offeredWords(const TableRow& row) {
     QStringList words;
-    for (const properties::NamedValue& level : echo::data::offeredLevels(row.property->key))
-        words += word(static_cast<OutPutType>(level.value.toInt()));
+    for (const OutPutType level : echo::data::offeredLevels(row.property->key)) words += word(level);
     return words;
 }
 

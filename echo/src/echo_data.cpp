@@ -6,7 +6,7 @@
 namespace tiv::echo {
 
 #if defined(Q_CC_GNU)
-// Both are inline, and belong to the library's symbols all the same.
+// Forces the two inline functions to be emitted, so that the library exports them.
 QT_WARNING_PUSH
 QT_WARNING_DISABLE_DEPRECATED
 [[gnu::used]] static QString (*const translations[])(const char*, const char*, int) = {

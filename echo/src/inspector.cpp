@@ -34,7 +34,7 @@ const properties::RecordAccess& recordOf(const InternalInterface& table) {
 // True if the line looks like settings, with the envelope's field "prop". Does not check that it can be
 // decoded.
 bool beginsAsSettings(const QString& line) {
-    if (line.startsWith(QLatin1Char('{')))
+    if (settingsForm(line) == SettingsForm::Json)
         return QJsonDocument::fromJson(line.toUtf8()).object().contains(QStringLiteral("prop"));
     const auto bytes =
         QByteArray::fromBase64Encoding(line.toLatin1(), QByteArray::AbortOnBase64DecodingErrors);
@@ -48,8 +48,8 @@ std::unique_ptr<QMimeData> copySettings(InternalInterface& table) {
     return data;
 }
 
-// The loader is lenient with what a host has stored. A clipboard may hold anything, and a text of two lines,
-// or a word that happens to be valid base64, would reset every option.
+// insertXMLData is lenient with what a host has stored. A clipboard can hold anything: two lines, or a word
+// that happens to be valid base64, would reset every option.
 std::vector<properties::PropertyValue> readSettings(
     const InternalInterface& table, const QMimeData& clipboard) {
     const properties::RecordAccess& record = recordOf(table);
@@ -57,17 +57,13 @@ std::vector<properties::PropertyValue> readSettings(
         throw std::invalid_argument(
             EchoData::tr("The clipboard holds settings of another program.").toStdString());
     const QString line = clipboard.text().trimmed();
-    if (line.contains(QLatin1Char('\n')) || !beginsAsSettings(line))
+    if (recordCount(line) > 1 || !beginsAsSettings(line))
         throw std::invalid_argument(EchoData::tr("The clipboard does not hold settings.").toStdString());
 
-    container::model::Model read;
-    container::model::Transaction transaction(read);
-    record.insertDefault(transaction, recordKey());
-    readSettingsLine(settingsForm(line), line, record.schema, record.modify(read, recordKey()));
-    transaction.end();
+    const auto read = data::readSettings(line, record);
     std::vector<properties::PropertyValue> values;
-    for (const auto& property : table.properties->list)
-        values.push_back({property, properties::value(*property, read, recordKey())});
+    for (const auto& property : table.inspected->list)
+        values.push_back({property, properties::value(*property, read.get())});
     return values;
 }
 
@@ -96,16 +92,21 @@ properties::InspectorHost host(
 }  // namespace
 
 QWidget* makeInspector(const std::shared_ptr<InternalInterface>& table, QWidget* parent) {
-    offerLevels(*table->properties);
-    static const auto editors = std::make_shared<const properties::DefaultEditorFactory>();
-    static const auto validators = std::make_shared<const properties::DefaultValidatorFactory>();
+    if (!table->inspected)
+        table->inspected =
+            std::make_shared<properties::Properties>(properties::withOwnSettings(*table->properties));
+    offerLevels(*table->inspected);
+    static const auto& editors =
+        *new std::shared_ptr(std::make_shared<const properties::DefaultEditorFactory>());
+    static const auto& validators =
+        *new std::shared_ptr(std::make_shared<const properties::DefaultValidatorFactory>());
     auto* inspector = new properties::QtInspectorWidget(parent,
-        table->properties,
+        table->inspected,
         table->selection,
         table->model,
         editors,
         validators,
-        host(table, table->properties));
+        host(table, table->inspected));
     inspector->setPropertyFilterFunction([keys = table->visibleKeys](const std::string& key) {
         return std::find(keys.begin(), keys.end(), key) != keys.end();
     });

@@ -4,6 +4,8 @@
 #include "tiv/dbo/dbo.h"
 #include "tiv/smartassert/smart_assert.h"
 
+#include <iterator>
+
 namespace tiv::echo::data {
 namespace {
 
@@ -49,12 +51,12 @@ bool isOptionApplicable(const ElementTypeFlags& flags, int option) {
     return flags.beams || flags.fixed5 || flags.cables;  // 11, 13, 17 to 20, 23 to 27, 29, 31 to 35
 }
 
-InternalInterface::InternalInterface(EchoData::ProgrammTypes type, int database)
+InternalInterface::InternalInterface(
+    EchoData::ProgrammTypes type, int database, const properties::Properties& definitions)
     : model(std::make_shared<container::model::Model>()),
-      properties(std::make_shared<properties::Properties>()),
+      properties(&definitions),
       selection(std::make_shared<properties::SelectionManager<container::model::Key>>()),
       programType(type) {
-    properties->xlator = std::make_shared<translation::Xlator>(&inCatalogue);
     flags.quads = dbo::hasQuads(database, nullptr);
     flags.brics = dbo::hasBrics(database, nullptr);
     flags.beams = dbo::hasBeams(database, nullptr);
@@ -66,8 +68,19 @@ void InternalInterface::showOption(const std::string& key, int option) {
     if (isOptionApplicable(flags, option)) visibleKeys.push_back(key);
 }
 
+std::shared_ptr<const translation::Xlator> makeXlator(const std::string& structName) {
+    auto xlator = std::make_shared<translation::Xlator>(&inCatalogue);
+    translation::configure_xlator(*xlator, structName);
+    return xlator;
+}
+
+const properties::Properties& noDefinitions() {
+    static const auto& none = *new properties::Properties{{}, makeXlator({})};
+    return none;
+}
+
 const container::model::Key& recordKey() {
-    static const container::model::Key key(0);
+    static const auto& key = *new container::model::Key(0);  // never destroyed
     return key;
 }
 
@@ -88,7 +101,9 @@ std::shared_ptr<InternalInterface> makeInternalData(EchoData::ProgrammTypes type
         make<KurtaData>,     // KURTA
         make<RovaData>,      // ROVA
     };
-    if (type < std::size(programs)) return programs[type](type, database);
+    static_assert(std::size(programs) == programTypeCount);
+    if (type < programTypeCount) return programs[type](type, database);
+    // sic: host tools match on the reported text, source and line.
     smartassert::SmartAssert(R"(0 && "invalid prog_type")", "echo/src/internal_data", 120);
     return make<DummyData>(type, database);
 }

@@ -1,5 +1,5 @@
-// What every analysis program's echo table shares: the interface, the state, the rule that says which
-// options a project has, and the factory.
+// What the echo tables of all analysis programs share: the interface, the state, the rule for which options
+// apply to a project, and the factory.
 #pragma once
 
 #include "properties/container/key.h"
@@ -30,6 +30,8 @@ struct ElementTypeFlags {
     bool fixed8 = true;
 };
 
+inline constexpr int programTypeCount = EchoData::ROVA + 1;
+
 // Whether an option (0 to 64, utils.h) is shown and written in such a project.
 bool isOptionApplicable(const ElementTypeFlags& flags, int option);
 
@@ -46,8 +48,11 @@ class InternalInterface {
 
     // Holds one settings record under `recordKey`; none for a program without options.
     const std::shared_ptr<container::model::Model> model;
-    // The record's fields as the inspector knows them, with the levels offered for each.
-    const std::shared_ptr<properties::Properties> properties;
+    // The definitions of the record's fields, which never change: all tables of a record share them.
+    const properties::Properties* const properties;
+    // Those that inspectors of this table show, with the levels offered in the application's language.
+    // Made with the first inspector.
+    std::shared_ptr<properties::Properties> inspected;
     // The key of the record that inspectors show.
     const std::shared_ptr<properties::SelectionManager<container::model::Key>> selection;
     // The keys of the options that apply to the project, in the order of the inspector.
@@ -56,14 +61,21 @@ class InternalInterface {
     const EchoData::ProgrammTypes programType;
 
  protected:
-    // Asks the database which kinds of element the project holds.
-    InternalInterface(EchoData::ProgrammTypes type, int database);
+    // Asks the database which kinds of element the project holds. `definitions` must have static lifetime.
+    InternalInterface(EchoData::ProgrammTypes type, int database, const properties::Properties& definitions);
     // Makes the option's key visible if the option applies to the project.
     void showOption(const std::string& key, int option);
 };
 
 // Where a property's configuration holds the keywords of its option (QString: "REAC, REAK").
 inline constexpr std::string_view keywordPath = "echo.keyword";
+
+// The translator of the definitions of a record, with this qualified name of its schema.
+std::shared_ptr<const translation::Xlator> makeXlator(const std::string& structName);
+
+// Of a table without options. Constants of this library are never destroyed: a host's last EchoData may be
+// a global object.
+const properties::Properties& noDefinitions();
 
 // The key of the settings record in every model.
 const container::model::Key& recordKey();

@@ -3,7 +3,9 @@
 #include "properties/definitions/paths.h"
 #include "tiv/echo/echo_data.h"
 
+#include <map>
 #include <memory>
+#include <utility>
 
 namespace tiv::echo::data {
 
@@ -31,12 +33,11 @@ QString levelText(OutPutType level) {
     return QString::number(level);
 }
 
-std::vector<properties::NamedValue> offeredLevels(const std::string& key) {
-    std::vector<properties::NamedValue> entries;
-    const auto offer = [&](std::initializer_list<OutPutType> levels) {
-        for (const OutPutType level : levels) entries.push_back({levelText(level), int{level}});
+std::vector<OutPutType> offeredLevels(const std::string& key) {
+    std::vector<OutPutType> levels{DEFAULT_OUTPUT, NO_OUTPUT};
+    const auto offer = [&](std::initializer_list<OutPutType> more) {
+        levels.insert(levels.end(), more.begin(), more.end());
     };
-    offer({DEFAULT_OUTPUT, NO_OUTPUT});
     if (key == "prop.esk_reac" || key == "prop.line")
         offer({NORMAL_OUTPUT, FULL_OUTPUT});
     else if (key == "prop.mexora_load" || key == "prop.mexora_tabs")
@@ -46,26 +47,28 @@ std::vector<properties::NamedValue> offeredLevels(const std::string& key) {
     else
         offer({NORMAL_OUTPUT, FULL_OUTPUT, EXTENSIVE_OUTPUT});
     if (key == "prop.nost" || key == "prop.esk_forc") offer({FOUR, FIVE, SIX, SEVEN});
-    return entries;
+    return levels;
 }
 
 namespace {
 
-// How every level reads, for values that are stored though they are not offered.
-properties::NamedValues levelNames() {
-    auto names = std::make_shared<std::vector<properties::NamedValue>>();
+using NamedLevels = std::vector<properties::NamedValue>;
+
+// Names of all levels, by level: also to display stored values that are not offered.
+NamedLevels levelNames() {
+    NamedLevels names;
     for (const bond::Enumerator& level : outPutTypes)
-        names->push_back({levelText(static_cast<OutPutType>(level.value)), level.value});
+        names.push_back({levelText(static_cast<OutPutType>(level.value)), level.value});
     return names;
 }
 
-// What a level does not say of itself.
-properties::NamedValues levelExplanations() {
-    auto texts = std::make_shared<std::vector<properties::NamedValue>>();
+// Extra explanation for the numeric levels.
+NamedLevels levelExplanations() {
+    NamedLevels texts;
     for (const OutPutType level : {FOUR, FIVE, SIX, SEVEN})
-        texts->push_back({EchoData::tr("Numeric level %1: kept with the settings, but the input text has no "
-                                       "keyword for it, so no line is written.")
-                              .arg(levelText(level)),
+        texts.push_back({EchoData::tr("Numeric level %1: kept with the settings, but the input text has no "
+                                      "keyword for it, so no line is written.")
+                             .arg(levelText(level)),
             int{level}});
     return texts;
 }
@@ -73,11 +76,17 @@ properties::NamedValues levelExplanations() {
 }  // namespace
 
 void offerLevels(properties::Properties& properties) {
-    const properties::NamedValues names = levelNames();
-    const properties::NamedValues explanations = levelExplanations();
+    const auto names = std::make_shared<const NamedLevels>(levelNames());
+    const auto explanations = std::make_shared<const NamedLevels>(levelExplanations());
+    std::map<std::vector<OutPutType>, properties::NamedValues> known;  // most options offer the same
     for (const auto& property : properties.list) {
-        const auto entries =
-            std::make_shared<const std::vector<properties::NamedValue>>(offeredLevels(property->key));
+        const std::vector<OutPutType> levels = offeredLevels(property->key);
+        properties::NamedValues& entries = known[levels];
+        if (!entries) {
+            NamedLevels offered;
+            for (const OutPutType level : levels) offered.push_back((*names)[level]);
+            entries = std::make_shared<const NamedLevels>(std::move(offered));
+        }
         properties::Configuration& configuration = property->configuration;
         configuration.set(properties::path::editorEntries, entries);
         configuration.set(properties::path::validatorEntries, entries);

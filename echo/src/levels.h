@@ -1,4 +1,4 @@
-// The output levels as the engineer reads them, and which of them each option offers.
+// The output levels with the texts that the engineer reads, and which of them each option offers.
 #pragma once
 
 #include "echo/schema/output_type.h"
@@ -14,10 +14,10 @@ namespace tiv::echo::data {
 // "Full output" in the language of the application; the number itself outside 0 to 8.
 QString levelText(OutPutType level);
 
-// The levels offered for a property key, in order, with their texts: 0 to 4 for most.
-std::vector<properties::NamedValue> offeredLevels(const std::string& key);
+// The levels offered for a property key, in order: 0 to 4 for most.
+std::vector<OutPutType> offeredLevels(const std::string& key);
 
-// Gives every property its offered levels, with texts in the present language of the application.
+// Gives every property its offered levels, with texts in the application's current language.
 void offerLevels(properties::Properties& properties);
 
 }  // namespace tiv::echo::data

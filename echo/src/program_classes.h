@@ -1,5 +1,5 @@
-// The echo tables of the analysis programs, one class each. What is special about a program stands in
-// its source file (qsx_data.cpp ... rova_data.cpp); to add one, see docs/architecture.md.
+// The echo tables of the analysis programs, one class each. The facts of a program are in its source file
+// (qsx_data.cpp ... rova_data.cpp). To add a program, see docs/architecture.md.
 #pragma once
 
 #include "echo/src/program_data.h"
@@ -54,7 +54,8 @@ class RovaData final : public ProgramData {
 // A program without options: nothing to show, to keep or to write.
 class KurtaData : public InternalInterface {
  public:
-    KurtaData(EchoData::ProgrammTypes type, int database) : InternalInterface(type, database) {}
+    KurtaData(EchoData::ProgrammTypes type, int database)
+        : InternalInterface(type, database, noDefinitions()) {}
     QString getXMLData() final { return {}; }
     void insertXMLData(const QString& /*text*/) final {}
     std::vector<QString> getTELINP(bool, bool, int) final { return {}; }

@@ -1,11 +1,10 @@
 #include "echo/src/program_data.h"
 
-#include "echo/schema/output_type.h"
+#include "echo/src/settings_string.h"
 #include "properties/qt/inc/nextgen/from_bond.h"
 #include "tiv/smartassert/smart_assert.h"
 
-#include <QStringList>
-
+#include <memory>
 #include <string>
 
 namespace tiv::echo::data {
@@ -24,32 +23,37 @@ QString bothKeywords(int option) {
     return english == german ? english : english + QStringLiteral(", ") + german;
 }
 
-// One text for all tables, which share it.
-const QString& keywords(int option) {
-    static const QStringList all = [] {
-        QStringList texts;
-        for (int i = 0; i < optionCount; ++i) texts << bothKeywords(i);
-        return texts;
-    }();
-    return all[option];
+const properties::Properties& definitionsOf(const ServedType* served) {
+    return served ? served->definitions(*served) : noDefinitions();
 }
 
 }  // namespace
 
-ProgramData::ProgramData(EchoData::ProgrammTypes type, int database, const Program& program)
-    : InternalInterface(type, database), program_(program), served_(servedTypeFor(program, type)) {
-    if (!served_) return;
-    const properties::RecordAccess& record = served_->record();
-    translation::configure_xlator(*properties->xlator, record.schema.name);
-    properties::fromBond(record, *properties);
+properties::Properties makeDefinitions(const ServedType& served) {
+    const properties::RecordAccess& record = served.record();
+    properties::Properties definitions{{}, makeXlator(record.schema.name)};
+    properties::fromBond(record, definitions);
+    for (const auto& property : definitions.list) {
+        const int option = served.options[property->field->id].number;
+        property->configuration.set(keywordPath, bothKeywords(option));
+    }
+    return definitions;
+}
 
+ProgramData::ProgramData(EchoData::ProgrammTypes type, int database, const Program& program)
+    : ProgramData(type, database, program, servedTypeFor(program, type)) {}
+
+ProgramData::ProgramData(
+    EchoData::ProgrammTypes type, int database, const Program& program, const ServedType* served)
+    : InternalInterface(type, database, definitionsOf(served)), program_(program), served_(served) {
+    if (!served_) return;
     container::model::Transaction transaction(*model);
-    record.insertDefault(transaction, recordKey());
+    served_->record().insertDefault(transaction, recordKey());
     transaction.end();
 
+    visibleKeys.reserve(served_->options.size());
     for (const bond::Row& field : optionFields(*served_).rows) {
         const OptionNumber& option = served_->options[field.id];
-        properties->list[field.id]->configuration.set(keywordPath, keywords(option.number));
         showOption(option.shownAs ? option.shownAs : std::string("prop.") + field.name, option.number);
     }
 }
@@ -61,12 +65,17 @@ QString ProgramData::getXMLData() {
 }
 
 void ProgramData::insertXMLData(const QString& text) {
-    if (servesType() || program_.otherTypes == OtherTypes::AlsoInserted) served_->insert(*model, text);
+    if (!servesType() && program_.otherTypes != OtherTypes::AlsoInserted) return;
+    const properties::RecordAccess& record = served_->record();
+    container::model::Transaction transaction(*model);
+    record.replace(*model, recordKey(), readSettings(text, record).get());
+    transaction.end();
 }
 
 std::vector<QString> ProgramData::getTELINP(bool defaultsOnly, bool extensive, int language) {
     if (defaultsOnly) return defaultsLine(language, extensive);
     if (!served_) {
+        // sic: host tools match on the reported text, source and line.
         smartassert::SmartAssert(
             R"(0 && "invalid programtypoe")", program_.refusal.source, program_.refusal.line);
         return {};

@@ -1,18 +1,21 @@
-// The one mechanism behind every program's echo table. A program is told by plain data: its settings
-// records, the option number of each field, and what it does for a program type that is not its own.
+// Shared implementation of all echo tables. A program is described by plain data: its settings records,
+// the option number of each field, and what its table does for a program type that it does not serve.
 //
 //     constexpr OptionNumber options[] = {43, 44, 45};
 //     constexpr ServedType types[] = {serves<kst::Data>(EchoData::KST, options)};
 //     constexpr Program program{types, OtherTypes::AlsoInserted};
 #pragma once
 
+#include "echo/schema/output_type.h"
 #include "echo/src/internal_data.h"
-#include "echo/src/settings_string.h"
 #include "echo/src/utils.h"
+#include "properties/definitions/property.h"
 #include "properties/definitions/record_access.h"
 
 #include <cstddef>
 #include <span>
+#include <tuple>
+#include <type_traits>
 
 namespace tiv::echo::data {
 
@@ -30,26 +33,38 @@ struct OptionNumber {
 struct ServedType {
     EchoData::ProgrammTypes type;
     const properties::RecordAccess& (*record)();
-    // Replaces the record by the one that a settings string holds.
-    void (*insert)(container::model::Model&, const QString& text);
+    const properties::Properties& (*definitions)(const ServedType&);
     std::span<const OptionNumber> options;  // one per field, in field order
 };
 
+// The definitions of the record's labelled fields, each with the keywords of its option.
+properties::Properties makeDefinitions(const ServedType& served);
+
+// The same, made once and shared by all tables of the record. Never destroyed.
 template <class Data>
-void insertSettings(container::model::Model& model, const QString& text) {
-    container::model::Transaction transaction(model);
-    const std::vector<Data> records = decodeSettings<Data>(text);
-    model.handle<Data>(recordKey()).modify() = records.size() == 1 ? records.front() : Data{};
-    transaction.end();
+const properties::Properties& sharedDefinitions(const ServedType& served) {
+    static const auto& definitions = *new properties::Properties(makeDefinitions(served));
+    return definitions;
+}
+
+template <class Options>
+consteval bool hasLevelsOnly() {
+    return std::apply(
+        [](const auto&... field) {
+            return (std::is_same_v<decltype(field.member), OutPutType Options::*> && ...);
+        },
+        bond::description<Options>.fields);
 }
 
 template <class Data, std::size_t N>
 constexpr ServedType serves(EchoData::ProgrammTypes type, const OptionNumber (&options)[N]) {
-    static_assert(N == bond::fieldCount<decltype(Data::prop)>, "<=== every field needs its option number");
-    return {type, &properties::recordAccess<Data>, &insertSettings<Data>, options};
+    using Options = decltype(Data::prop);
+    static_assert(N == bond::fieldCount<Options>, "<=== every field needs its option number");
+    static_assert(hasLevelsOnly<Options>(), "<=== every field of an option record is an OutPutType");
+    return {type, &properties::recordAccess<Data>, &sharedDefinitions<Data>, options};
 }
 
-// What a table does that was made for a program type it has no record for.
+// Behaviour of a table created for a program type it does not serve.
 enum class OtherTypes {
     Refused,       // no options; asking for its lines is reported as a failed assertion
     Written,       // the first record is shown and written, but neither saved nor inserted
@@ -77,10 +92,11 @@ class ProgramData : public InternalInterface {
     const ServedType* servedType() const { return served_; }
 
  protected:
-    // `program` is constant data. Builds the options: the default record, its properties, visibleKeys.
+    // `program` must have static lifetime. Builds the options: the default record and visibleKeys.
     ProgramData(EchoData::ProgrammTypes type, int database, const Program& program);
 
  private:
+    ProgramData(EchoData::ProgrammTypes type, int database, const Program& program, const ServedType* served);
     bool servesType() const { return served_ && served_->type == programType; }
 
     const Program& program_;

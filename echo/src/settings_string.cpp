@@ -9,17 +9,33 @@
 #include <span>
 
 namespace tiv::echo::data {
+namespace {
 
-SettingsForm settingsForm(const QString& text) {
-    return text.startsWith(QLatin1Char('{')) ? SettingsForm::Json : SettingsForm::Base64;
-}
-
+// Takes the next non-empty line off `rest`; empty when there is none.
 QStringView nextLine(QStringView& rest) {
     while (rest.startsWith(u'\n')) rest = rest.mid(1);
     const auto end = rest.indexOf(u'\n');
     const QStringView line = end < 0 ? rest : rest.left(end);
     rest = rest.mid(line.size());
     return line;
+}
+
+// Reads one line into `record`, which is in its initial state.
+void readLine(SettingsForm form, QStringView line, const bond::Struct& schema, void* record) {
+    if (form == SettingsForm::Json) {
+        const QByteArray text = line.toUtf8();
+        bond::readSimpleJson(schema, record, {text.constData(), static_cast<std::size_t>(text.size())});
+        return;
+    }
+    const QByteArray bytes = QByteArray::fromBase64(line.toLatin1());
+    bond::readCompactBinary(
+        schema, record, std::as_bytes(std::span(bytes.constData(), static_cast<std::size_t>(bytes.size()))));
+}
+
+}  // namespace
+
+SettingsForm settingsForm(const QString& text) {
+    return text.startsWith(QLatin1Char('{')) ? SettingsForm::Json : SettingsForm::Base64;
 }
 
 QString settingsString(const bond::Struct& schema, const void* record) {
@@ -30,15 +46,21 @@ QString settingsString(const bond::Struct& schema, const void* record) {
     return QString::fromLatin1(raw.toBase64().append('\n'));
 }
 
-void readSettingsLine(SettingsForm form, QStringView line, const bond::Struct& schema, void* record) {
-    if (form == SettingsForm::Json) {
-        const QByteArray text = line.toUtf8();
-        bond::readSimpleJson(schema, record, {text.constData(), static_cast<std::size_t>(text.size())});
-        return;
+int recordCount(QStringView text) {
+    int count = 0;
+    while (!nextLine(text).isEmpty()) ++count;
+    return count;
+}
+
+std::shared_ptr<void> readSettings(const QString& text, const properties::RecordAccess& access) {
+    const SettingsForm form = settingsForm(text);
+    std::shared_ptr<void> record;
+    QStringView rest(text);
+    for (QStringView line = nextLine(rest); !line.isEmpty(); line = nextLine(rest)) {
+        record = access.make();
+        readLine(form, line, access.schema, record.get());
     }
-    const QByteArray bytes = QByteArray::fromBase64(line.toLatin1());
-    bond::readCompactBinary(
-        schema, record, std::as_bytes(std::span(bytes.constData(), static_cast<std::size_t>(bytes.size()))));
+    return recordCount(text) == 1 ? record : access.make();
 }
 
 }  // namespace tiv::echo::data

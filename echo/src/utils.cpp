@@ -16,7 +16,7 @@ struct Option {
     const char* description;
 };
 
-// Kept letter for letter, also where an entry looks like a slip: the analysis programs read these words.
+// sic: the analysis programs read these words. Entries that look like a slip are kept, too.
 constexpr Option options[] = {
     {"VOLL", "FULL", QT_TRANSLATE_NOOP("EchoData", "Default of all options")},                      // 0
     {"GRUP", "GRP", QT_TRANSLATE_NOOP("EchoData", "Group parameters")},                             // 1
@@ -130,7 +130,7 @@ void appendOptionLine(
     if (!row || !isOptionApplicable(flags, option) || level == DEFAULT_OUTPUT) return;
     const QLatin1String keyword = keywordOf(level, language);
     if (keyword.isNull()) {
-        smartassert::SmartAssert("0", "echo/src/utils", 48);
+        smartassert::SmartAssert("0", "echo/src/utils", 48);  // sic: host tools match on this report
         return;
     }
     lines.push_back(QLatin1String("ECHO OPT ") % word(row->german, row->english, language) %
@@ -143,7 +143,7 @@ std::vector<QString> defaultsLine(int language, bool extensive) {
         QString none[2] = {QStringLiteral("ECHO VOLL NEIN $ "), QStringLiteral("ECHO FULL NO $ ")};
         QString full[2] = {QStringLiteral("ECHO VOLL VOLL $ "), QStringLiteral("ECHO FULL FULL $ ")};
     };
-    static const Beginnings beginnings;
+    static const auto& beginnings = *new Beginnings;  // never destroyed
     const int english = language == 0 ? 0 : 1;
     if (extensive) return {beginnings.full[english] + EchoData::tr("extensive output of text lists")};
     return {beginnings.none[english] + EchoData::tr("no output of text lists")};

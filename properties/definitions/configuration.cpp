@@ -34,7 +34,8 @@ void Configuration::set(std::string_view path, Setting value) {
 const Setting* Configuration::find(std::string_view path) const {
     const auto leaf =
         std::find_if(leaves_.begin(), leaves_.end(), [&](const Leaf& l) { return l.path == path; });
-    return leaf == leaves_.end() ? nullptr : &leaf->value;
+    if (leaf != leaves_.end()) return &leaf->value;
+    return base_ ? base_->find(path) : nullptr;
 }
 
 }  // namespace tiv::properties

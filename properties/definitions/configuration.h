@@ -13,6 +13,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <variant>
 #include <vector>
 
@@ -31,7 +32,7 @@ using Setting = std::variant<int, QString, NamedValues, IsEqual>;
 
 class Configuration;
 
-// One branch of a configuration; looks into it, so it must not outlive it.
+// One branch of a configuration, which must outlive it.
 class Branch {
  public:
     Branch(const Configuration& configuration, std::string path);
@@ -45,9 +46,12 @@ class Branch {
     std::string path_;
 };
 
-// Stored by whole paths: a handful of settings is found faster so than through nodes, and costs less.
+// A flat list of full paths: for a handful of settings it is faster and smaller than a tree of nodes.
 class Configuration {
  public:
+    Configuration() = default;
+    // Shows the settings of `base` wherever this one has none of its own. `base` is kept alive.
+    explicit Configuration(std::shared_ptr<const Configuration> base) : base_(std::move(base)) {}
     // Throws std::invalid_argument `Not a setting's path: "<path>"` when a name between dots is empty.
     void set(std::string_view path, Setting value);
     template <class T>
@@ -64,6 +68,7 @@ class Configuration {
     };
     const Setting* find(std::string_view path) const;
 
+    std::shared_ptr<const Configuration> base_;
     std::vector<Leaf> leaves_;
 };
 

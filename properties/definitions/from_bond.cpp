@@ -28,12 +28,6 @@ NamedValues enumerators(const bond::EnumSchema& enumeration) {
     return entries;
 }
 
-std::optional<qlonglong> wholeNumber(const QVariant& value) {
-    bool isNumber = false;
-    const qlonglong number = value.toLongLong(&isNumber);
-    return isNumber && !isFloatingPoint(value) ? std::optional(number) : std::nullopt;
-}
-
 bool equalNumbers(const QVariant& a, const QVariant& b) {
     const auto number = wholeNumber(a);
     return number && number == wholeNumber(b);

@@ -2,10 +2,13 @@
 
 #include "bond/member.h"
 
+#include <array>
+#include <charconv>
 #include <cmath>
-#include <limits>
+#include <cstdint>
 #include <stdexcept>
 #include <type_traits>
+#include <utility>
 
 namespace tiv::properties {
 namespace {
@@ -24,32 +27,37 @@ QString translated(const Properties& properties, const std::string& key, const c
 
 template <class T>
 T converted(const QVariant& value) {
-    bool ok = true;
-    if (std::is_integral_v<T> && isFloatingPoint(value)) conversionFailed();  // would be rounded
     if constexpr (std::is_same_v<T, std::string>) {
         if (!value.canConvert<QString>()) conversionFailed();
         return value.toString().toStdString();
-    } else if constexpr (std::is_same_v<T, bool>) {
-        if (value.userType() == QMetaType::Bool) return value.toBool();
-        const qlonglong number = value.toLongLong(&ok);
-        if (!ok || number < 0 || number > 1) conversionFailed();
-        return number == 1;
     } else if constexpr (std::is_floating_point_v<T>) {
-        const double number = value.toDouble(&ok);
-        if (!ok || !std::isfinite(number) || std::abs(number) > std::numeric_limits<T>::max())
-            conversionFailed();
-        return static_cast<T>(number);
-    } else if constexpr (std::is_unsigned_v<T>) {
-        const qulonglong number = value.toULongLong(&ok);
-        const bool negative = value.userType() != QMetaType::ULongLong && value.toLongLong() < 0;
-        if (!ok || negative || number > std::numeric_limits<T>::max()) conversionFailed();
+        bool isNumber = false;
+        const double number = value.toDouble(&isNumber);
+        // The greatest float, printed and read as a double, can be slightly above it.
+        if (!isNumber || !std::isfinite(static_cast<T>(number))) conversionFailed();
         return static_cast<T>(number);
     } else {
-        const qlonglong number = value.toLongLong(&ok);
-        const bool fits = number >= std::numeric_limits<T>::min() && number <= std::numeric_limits<T>::max();
-        if (!ok || !fits) conversionFailed();
-        return static_cast<T>(number);
+        using Stored = std::conditional_t<std::is_same_v<T, bool>, std::uint8_t, T>;
+        const auto number = wholeNumber(value);
+        if (!number) conversionFailed();
+        const bool fits = number->isNegative ? std::in_range<Stored>(static_cast<qlonglong>(number->bits))
+                                             : std::in_range<Stored>(number->bits);
+        if (!fits || (std::is_same_v<T, bool> && number->bits > 1)) conversionFailed();
+        return static_cast<T>(number->bits);
     }
+}
+
+double shortest(double number) {
+    return number;
+}
+
+// The double with the same shortest text.
+double shortest(float number) {
+    std::array<char, 32> text;
+    const char* end = std::to_chars(text.data(), text.data() + text.size(), number).ptr;
+    double result = 0;
+    std::from_chars(text.data(), end, result);
+    return result;
 }
 
 QVariant read(const bond::Row& field, const void* record) {
@@ -59,7 +67,7 @@ QVariant read(const bond::Row& field, const void* record) {
         else if constexpr (std::is_same_v<T, bool> || std::is_same_v<T, std::uint32_t>)
             return member;
         else if constexpr (std::is_floating_point_v<T>)
-            return double{member};
+            return shortest(member);
         else if constexpr (std::is_same_v<T, std::int64_t>)
             return static_cast<qlonglong>(member);
         else if constexpr (std::is_same_v<T, std::uint64_t>)
@@ -75,8 +83,27 @@ const void* structAt(const Property& property, const void* record) {
 
 }  // namespace
 
-bool isFloatingPoint(const QVariant& value) {
-    return value.userType() == QMetaType::Double || value.userType() == QMetaType::Float;
+Properties withOwnSettings(const Properties& definitions) {
+    Properties result{{}, definitions.xlator};
+    result.list.reserve(definitions.list.size());
+    for (const auto& definition : definitions.list) {
+        auto property = std::make_shared<Property>(*definition);
+        property->configuration = Configuration({definition, &definition->configuration});
+        result.list.push_back(std::move(property));
+    }
+    return result;
+}
+
+std::optional<WholeNumber> wholeNumber(const QVariant& value) {
+    const int type = value.userType();
+    if (type == QMetaType::Double || type == QMetaType::Float) return std::nullopt;
+    bool isSigned = false, isUnsigned = false;
+    const qlonglong number = value.toLongLong(&isSigned);
+    const qulonglong bits = value.toULongLong(&isUnsigned);
+    const bool isNegative =
+        isSigned && number < 0 && type != QMetaType::ULongLong && type != QMetaType::ULong;
+    if (isNegative) return WholeNumber{true, static_cast<qulonglong>(number)};
+    return isUnsigned ? std::optional(WholeNumber{false, bits}) : std::nullopt;
 }
 
 QString label(const Properties& properties, const Property& property) {
@@ -96,11 +123,15 @@ QString inspectorText(const Properties& properties, const char* source) {
 }
 
 QVariant value(const Property& property, const Model& model, const Key& key) {
-    return read(*property.field, structAt(property, property.record->read(model, key)));
+    return value(property, property.record->read(model, key));
+}
+
+QVariant value(const Property& property, const void* record) {
+    return read(*property.field, structAt(property, record));
 }
 
 QVariant defaultValue(const Property& property) {
-    return read(*property.field, structAt(property, property.record->schema.defaults));
+    return value(property, property.record->schema.defaults);
 }
 
 void setValues(std::span<const PropertyValue> values, Model& model, const Key& key) {

@@ -1,5 +1,5 @@
-// Property definitions: what the inspector knows of each field it may show. Made by from_bond from a
-// record's description; the texts are those of the description and live as long as the process.
+// Property definitions: what the inspector shows of each field. Made by from_bond from a record's
+// description, whose texts live as long as the process.
 #pragma once
 
 #include "properties/definitions/configuration.h"
@@ -11,6 +11,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
@@ -33,8 +34,12 @@ struct Property {
 // The properties of one record, in order of the schema.
 struct Properties {
     std::vector<std::shared_ptr<Property>> list;
-    std::shared_ptr<translation::Xlator> xlator;  // null: source texts are shown as they are
+    std::shared_ptr<const translation::Xlator> xlator;  // null: source texts are shown as they are
 };
+
+// The same properties with configurations of their own, for settings that the shared definitions of a
+// record cannot hold. Settings that are not set again are read from `definitions`.
+Properties withOwnSettings(const Properties& definitions);
 
 // The texts of a property in the language of its set's translator.
 QString label(const Properties& properties, const Property& property);
@@ -44,9 +49,12 @@ QString category(const Properties& properties, const Property& property);
 QString inspectorText(const Properties& properties, const char* source);
 
 // The field's value in the record under `key`: int for an enumeration, else bool, int, unsigned int,
-// qlonglong, qulonglong, double or QString. Throws what Model::read throws.
+// qlonglong, qulonglong, double or QString. A float is the double with the same shortest text: 0.12, not
+// 0.11999999731779099. Throws what Model::read throws.
 QVariant value(
     const Property& property, const container::model::Model& model, const container::model::Key& key);
+// The field's value in a record outside a model.
+QVariant value(const Property& property, const void* record);
 // The field's value in a record with nothing set.
 QVariant defaultValue(const Property& property);
 
@@ -54,8 +62,14 @@ struct PropertyValue {
     std::shared_ptr<const Property> property;
     QVariant value;
 };
-// Whether it holds a float or double, from which no whole number is made.
-bool isFloatingPoint(const QVariant& value);
+// A whole number of 64 bits; those of a negative one are its two's complement.
+struct WholeNumber {
+    bool isNegative;
+    qulonglong bits;
+    bool operator==(const WholeNumber&) const = default;
+};
+// None for a value that is no whole number. A float or double, which would be rounded, never is.
+std::optional<WholeNumber> wholeNumber(const QVariant& value);
 // Sets the fields of one record in one transaction. A text is converted to the field's type.
 // Throws std::runtime_error "Conversion failed." when a value does not fit its field, and what
 // Transaction and ObjectHandle::modify throw; the record is then unchanged.

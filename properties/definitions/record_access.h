@@ -1,4 +1,4 @@
-// A settings record in the object model, for code that knows its description but not its type:
+// Access to a settings record in the object model for code that knows its description but not its type:
 //
 //     const RecordAccess& access = recordAccess<esk::Data>();
 //     const void* record = access.read(model, Key(0));           // "Unknown key.", "Type mismatch."
@@ -11,6 +11,9 @@
 #include "properties/container/object_handle.h"
 #include "properties/container/transaction.h"
 
+#include <memory>
+#include <utility>
+
 namespace tiv::properties {
 
 struct RecordAccess {
@@ -18,6 +21,9 @@ struct RecordAccess {
     void (*insertDefault)(container::model::Transaction&, const container::model::Key&);
     const void* (*read)(const container::model::Model&, const container::model::Key&);
     void* (*modify)(container::model::Model&, const container::model::Key&);
+    // A record with nothing set, and what moves its content into the model's record.
+    std::shared_ptr<void> (*make)();
+    void (*replace)(container::model::Model&, const container::model::Key&, void* record);
 };
 
 template <class Record>
@@ -28,6 +34,10 @@ const RecordAccess& recordAccess() {
         [](Transaction& transaction, const Key& key) { transaction.insert(key, Record{}); },
         [](const Model& model, const Key& key) -> const void* { return &model.read<Record>(key); },
         [](Model& model, const Key& key) -> void* { return &model.handle<Record>(key).modify(); },
+        []() -> std::shared_ptr<void> { return std::make_shared<Record>(); },
+        [](Model& model, const Key& key, void* record) {
+            model.handle<Record>(key).modify() = std::move(*static_cast<Record*>(record));
+        },
     };
     return access;
 }

@@ -1,5 +1,5 @@
-// Which object the inspectors of a property set show. Shared between the owner of the objects and the
-// widgets, so that either may go first:
+// The object that the inspectors of a property set show. Shared between the owner of the objects and the
+// widgets, so that either may be destroyed first:
 //
 //     SelectionManager<Key> selection;
 //     auto connection = selection.onChange([&] { show(*selection.selected()); });
@@ -22,7 +22,7 @@ class SelectionManager {
     // Null while nothing is selected.
     const Value* selected() const { return selected_ ? &*selected_ : nullptr; }
 
-    // Tells the observers unless `value` is selected already.
+    // Calls the observers unless `value` is selected already.
     void select(Value value) {
         if (selected_ && *selected_ == value) return;
         selected_ = std::move(value);

@@ -4,8 +4,8 @@
 //     configure_xlator(*xlator, "tiv.echo.esk.Data");
 //     xlator->text("prop.full", "Default of all options");   // "Voreinstellung aller Optionen"
 //
-// The lookup is handed the whole key, "tiv.echo.esk.Data:prop.full", and the source text. It decides
-// which of the two finds the translation; this class knows no catalogue and no context.
+// The lookup gets the whole key, "tiv.echo.esk.Data:prop.full", and the source text, and finds the
+// translation by either of them. This class depends on no catalogue and no context.
 #pragma once
 
 #include <QString>
@@ -31,15 +31,15 @@ class Xlator {
 
     // The UTF-8 locale for a locale name: "de_DE" gives that of "de_DE.UTF-8". Each name is generated
     // once and then served from a cache, which only grows. The first one costs tens of milliseconds.
-    // The reference is good for as long as the translator lives.
+    // The reference is valid as long as the translator lives.
     const std::locale& locale(const std::string& name);
 
  private:
     friend void configure_xlator(Xlator&, const std::string&);
     struct Implementation;
-    struct Locales;  // in a file of its own: only a program that asks for a locale loads Boost.Locale
+    struct Locales;  // defined in its own .cpp, so that Boost.Locale is linked only where locale() is used
     std::shared_ptr<Implementation> implementation_;
-    std::shared_ptr<Locales> locales_;  // made with the first one
+    std::shared_ptr<Locales> locales_;  // made for the first one
 };
 
 // Binds the translator to the struct whose fields are translated; its qualified name begins every key.

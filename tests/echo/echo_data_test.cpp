@@ -15,11 +15,12 @@ namespace {
 
 using namespace test;
 using tiv::echo::EchoData;
+using tiv::echo::data::programTypeCount;
 
 const Project everything(everyKind);
 
 TEST(EchoData, WithoutOptionsAnswersNothingAndReportsOnlyAnUnknownType) {
-    for (const unsigned type : {12U, 14U, 0xFFFFFFFF}) {
+    for (const unsigned type : {12U, unsigned{programTypeCount}, 0xFFFFFFFF}) {
         EchoData echo(static_cast<EchoData::ProgrammTypes>(type), everything.handle);
         const Reports invalid{R"(0 && "invalid prog_type" at echo/src/internal_data:120)"};
         EXPECT_EQ(takeReports(), type == 12 ? Reports() : invalid) << type;
@@ -30,20 +31,20 @@ TEST(EchoData, WithoutOptionsAnswersNothingAndReportsOnlyAnUnknownType) {
     }
 }
 
-TEST(SettingsString, IsReadAsAWholeAndToldOnceOrChangesNothing) {
+TEST(SettingsString, IsReadAsAWholeAndReportedOnceOrChangesNothing) {
     const auto table = tiv::echo::data::makeInternalData(EchoData::ESK, everything.handle);
-    int told = 0;
-    table->model->onChange([&](const auto&) { ++told; });
+    int reported = 0;
+    table->model->onChange([&](const auto&) { ++reported; });
     for (const QStringList& row : test::table("settings_strings.tsv")) {
         SCOPED_TRACE(row[0].toStdString());
         table->insertXMLData(R"({"prop":{"load":1}})");
         const QString before = table->getXMLData(), text = QString(row[0]).replace("\\n", "\n");
-        told = 0;
+        reported = 0;
         const std::string failure = failureOf<bond::Exception>([&] { table->insertXMLData(text); });
         const QString saved = table->getXMLData();
         EXPECT_EQ(failure.empty() ? saved : QString::fromStdString(failure) + '\n', row[1] + '\n');
         EXPECT_EQ(saved == before, !failure.empty());
-        EXPECT_EQ(told, failure.empty() ? 1 : 0);
+        EXPECT_EQ(reported, failure.empty() ? 1 : 0);
     }
     const tiv::container::model::Transaction open(*table->model);
     EXPECT_THAT(

@@ -14,7 +14,7 @@ namespace {
 
 using namespace test;
 using namespace tiv::echo::data;
-using tiv::echo::EchoData;
+using namespace tiv::echo;
 
 // The lines are those that the options promise for these levels, in every language.
 void expectLines(EchoData& echo, const std::vector<ExpectedOption>& options, const std::vector<int>& levels,
@@ -69,6 +69,36 @@ TEST(EveryProgram, WritesTheLinesOfItsTableForAllLevelsElementsAndLanguages) {
             }
         }
     }
+}
+
+// A record may keep a field out of the inspector.
+struct Sample {
+    OutPutType hidden = DEFAULT_OUTPUT, shown = DEFAULT_OUTPUT;
+};
+struct SampleData {
+    Sample prop;
+};
+constexpr auto describe(const Sample*) {
+    return bond::record<Sample>(
+        "test.Sample", bond::field("hidden", &Sample::hidden), option("shown", &Sample::shown, "Shown"));
+}
+constexpr auto describe(const SampleData*) {
+    return bond::record<SampleData>("test.SampleData", bond::field("prop", &SampleData::prop));
+}
+constexpr OptionNumber sampleOptions[] = {2, 4};
+constexpr ServedType sampleTypes[] = {serves<SampleData>(EchoData::KURTA, sampleOptions)};
+constexpr Program sampleProgram{sampleTypes, OtherTypes::Refused};
+
+struct SampleTable : public ProgramData {
+    explicit SampleTable(int database) : ProgramData(EchoData::KURTA, database, sampleProgram) {}
+};
+
+TEST(EveryProgram, WritesAFieldWithoutALabelAndShowsTheOthers) {
+    SampleTable table(Project(0).handle);
+    ASSERT_EQ(table.properties->list.size(), 1u);
+    EXPECT_EQ(*table.properties->list[0]->configuration.get<QString>(keywordPath), "REAC, REAK");
+    table.insertXMLData(R"({"prop":{"hidden":3}})");
+    EXPECT_EQ(table.getTELINP(false, false, 1), std::vector<QString>{"ECHO OPT LOAD VAL FULL $ Loads"});
 }
 
 template <class... Programs>

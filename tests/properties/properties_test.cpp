@@ -1,4 +1,5 @@
 // From a described record to property definitions, and from those to the record's values.
+#include "properties/definitions/validators.h"
 #include "properties/qt/inc/nextgen/from_bond.h"
 #include "support/every_type.h"
 #include "support/failure.h"
@@ -45,6 +46,7 @@ TEST_F(EveryProperty, GivesAPropertyToEveryLabelledFieldInOrder) {
         "yes|Yes|General|Whether it is on|-|0\n"
         "i8|Small|General|-|-|7\n"
         "u64|Big|General|-|-|0\n"
+        "f|Factor|General|-|-|0\n"
         "d|Width|General|-|12|-2147483648|2|2\n"
         "text|Name|General|-|-|0\n"
         "level|Level||-|-|0|swatch|named_value_list|named_value_list\n"
@@ -55,13 +57,13 @@ TEST_F(EveryProperty, GivesAPropertyToEveryLabelledFieldInOrder) {
 
 TEST_F(EveryProperty, NamesTheValuesOfAnEnumerationToEditorAndValidator) {
     for (const char* name : {"editor", "validator"}) {
-        const Branch branch = properties.list[5]->configuration.branch(name);
+        const Branch branch = properties.list[6]->configuration.branch(name);
         const auto& entries = **branch.get<NamedValues>("entries");
         ASSERT_EQ(entries.size(), 9u);
         EXPECT_EQ(entries[3].text, "FULL_OUTPUT");
         EXPECT_EQ(entries[8].value, 8);
         const IsEqual isEqual = *branch.get<IsEqual>("is_equal");
-        EXPECT_TRUE(isEqual(3, 3LL) && !isEqual(3, -1));
+        EXPECT_TRUE(isEqual(3, 3LL) && !isEqual(3, -1) && !isEqual(-3, qulonglong(-3)));
         for (const QVariant& noNumber : {QVariant(), QVariant("abc"), QVariant(0.4)})
             EXPECT_FALSE(isEqual(0, noNumber)) << noNumber.typeName();
     }
@@ -83,14 +85,18 @@ TEST_F(EveryProperty, KeepsAValueThatFitsAndRefusesOneThatDoesNot) {
         {2, std::numeric_limits<qulonglong>::max(), std::numeric_limits<qulonglong>::max()},
         {2, -1, {}},
         {2, 1.5, {}},
-        {3, "2.25", 2.25},
-        {3, "wide", {}},
-        {3, std::numeric_limits<double>::quiet_NaN(), {}},
-        {4, QString::fromUtf8("Träger"), QString::fromUtf8("Träger")},
-        {6, 99, 99},  // any 32-bit number
-        {6, 1LL << 32, {}},
+        {3, 0.12F, 0.12},
+        {3, "3.4028235e+38", 3.4028235e+38},  // the greatest float, as it is shown
+        {3, "-3.4028236e+38", {}},
+        {4, "2.25", 2.25},
+        {4, "wide", {}},
+        {4, std::numeric_limits<double>::quiet_NaN(), {}},
+        {5, QString::fromUtf8("Träger"), QString::fromUtf8("Träger")},
+        {7, 99, 99},  // any 32-bit number
+        {7, 1LL << 32, {}},
+        {7, std::numeric_limits<qulonglong>::max(), {}},
     };
-    const auto& other = properties.list[7];
+    const auto& other = properties.list[8];
     for (const auto& row : rows) {
         const auto& edited = properties.list[row.place];
         const QVariant before = value(*edited, model, key);
@@ -106,13 +112,19 @@ TEST_F(EveryProperty, KeepsAValueThatFitsAndRefusesOneThatDoesNot) {
     }
 }
 
+TEST_F(EveryProperty, AcceptsOnlyAsManyDecimalPlacesAsItHas) {
+    const auto isAccepted = DefaultValidatorFactory().create(*properties.list[4]);
+    for (const QVariant& fits : {QVariant("-1.25"), QVariant(1e15)}) EXPECT_TRUE(isAccepted(fits));
+    for (const QVariant& other : {QVariant(1.255), QVariant("wide")}) EXPECT_FALSE(isAccepted(other));
+}
+
 TEST(FromBond, RefusesAWeightThatIsNoWhole32BitNumber) {
     for (const char* weight : {"2147483648", "1.5", "heavy", ""}) {
         const bond::Attribute attributes[] = {{"DisplayName", "On"}, {"PropertyWeight", weight}};
         const bond::Row rows[] = {{"on", bond::Type::Bool, 0, 0, attributes, nullptr, nullptr}};
         const bond::Struct schema{"sample.Weight", rows, nullptr};
         Properties properties;
-        EXPECT_THROW(fromBond({schema, {}, {}, {}}, properties), std::bad_cast) << weight;
+        EXPECT_THROW(fromBond({schema, {}, {}, {}, {}, {}}, properties), std::bad_cast) << weight;
         EXPECT_TRUE(properties.list.empty());
     }
 }
@@ -122,7 +134,12 @@ TEST(Configuration, IsATreeWhosePathsHaveNoEmptyNames) {
     for (const char* path : {"", ".", "a.", ".a", "a..b"})
         EXPECT_THROW(configuration.set(path, 1), std::invalid_argument);
     configuration.set("a.b.c", 1);
-    EXPECT_EQ(*configuration.branch("a").branch("b").get<int>("c"), 1);
+    configuration.set("a.b.d", 2);
+    Configuration own(std::make_shared<Configuration>(configuration));
+    own.set("a.b.c", 3);
+    const Branch branch = own.branch("a").branch("b");
+    EXPECT_TRUE(*branch.get<int>("c") == 3 && *branch.get<int>("d") == 2 && !branch.get<QString>("d"));
+    EXPECT_EQ(*configuration.get<int>("a.b.c"), 1);
 }
 
 TEST(Xlator, AsksItsLookupWithTheBoundStructsKeysAndGeneratesALocaleOnce) {

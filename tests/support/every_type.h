@@ -1,5 +1,5 @@
-// A record with a field of every type and with every attribute, most of which the settings records have
-// not. The codec is tested on it, and the properties that are made from it.
+// A record with a field of every type and every attribute, most of which no settings record has. For the tests
+// of the codec and of the property definitions.
 #pragma once
 
 #include "echo/schema/kst.h"
@@ -36,7 +36,8 @@ constexpr auto describe(const EveryType*) {
         field("i8", &T::i8, {{"DisplayName", "Small"}, {"PropertyWeight", "+7"}}),
         field("i16", &T::i16, {{"Category", "no label, no property"}}), field("i32", &T::i32),
         field("i64", &T::i64), field("u8", &T::u8), field("u16", &T::u16), field("u32", &T::u32),
-        field("u64", &T::u64, {{"DisplayName", "Big"}, {"Precision", "many"}}), field("f", &T::f),
+        field("u64", &T::u64, {{"DisplayName", "Big"}, {"Precision", "many"}}),
+        field("f", &T::f, {{"DisplayName", "Factor"}}),
         field("d", &T::d,
             {{"DisplayName", "Width"}, {"Precision", "2"}, {"ColumnWidth", "12"},
                 {"PropertyWeight", "-2147483648"}}),

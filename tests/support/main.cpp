@@ -8,7 +8,7 @@ void recordReports();
 
 namespace {
 
-// A warning of Qt is a failure, but for what the offscreen platform says of itself.
+// Qt warnings are failures, except known warnings of the offscreen platform.
 void onQtMessage(QtMsgType, const QMessageLogContext&, const QString& text) {
     const bool ofThePlatform = text.startsWith(QLatin1String("This plugin does not support")) ||
                                text.startsWith(QLatin1String("QStandardPaths:"));

@@ -1,7 +1,7 @@
-// Assertion reports are part of what a test expects. Every test fails that ends with a report nobody
-// expected, or without one that it expected:
+// Assertion reports are part of what a test expects: a test fails with any report that it did not take.
+
 //
-//     makeInternalData(14, db);
+//     makeInternalData(1000, db);
 //     EXPECT_EQ(takeReports(), Reports({R"(0 && "invalid prog_type" at echo/src/internal_data:120)"}));
 #pragma once
 

@@ -1,5 +1,4 @@
-// Cases that are plain text stand under tests/data: a line is a row, tabs separate its cells, a line that
-// begins with "#" is a comment.
+// Test data in tests/data: a line is a row, tabs separate its cells, a line that begins with "#" is a comment.
 //
 //     for (const QStringList& row : test::table("codec.tsv")) EXPECT_EQ(answer(row[0]), row[1]);
 #pragma once

@@ -1,8 +1,8 @@
 /// \file
 /// What reading a settings string throws. A host that loads strings of unknown origin catches
-/// bond::Exception (or std::exception): nothing was changed when one of these arrives.
+/// bond::Exception (or std::exception): the settings are unchanged when one of these is thrown.
 ///
-/// The classes are complete here, so that they are the same types in the library and in its host.
+/// Header-only, so that host and library share one type.
 #pragma once
 
 #include <stdexcept>
@@ -11,7 +11,7 @@
 /// The wire format of settings strings.
 namespace bond {
 
-/// A settings string cannot be read; what() says why.
+/// A settings string cannot be read; what() is the reason.
 class Exception : public std::runtime_error {
  public:
     using std::runtime_error::runtime_error;

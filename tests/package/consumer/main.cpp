@@ -10,7 +10,7 @@ int main() {
     tiv::smartassert::setReporter(
         [](const tiv::smartassert::Report& report) { std::cout << "report: " << report.expression << '\n'; });
     const int project = tiv::dbo::createProject(":memory:");
-    const EchoData unknown(static_cast<EchoData::ProgrammTypes>(14), project);
+    const EchoData unknown(static_cast<EchoData::ProgrammTypes>(1000), project);
     EchoData echo(EchoData::ESK, project);
     std::cout << "settings: " << echo.getXMLData().toStdString();
     try {

@@ -426,28 +426,32 @@ void QtInspectorWidget::reveal(const std::vector<PropertyValue>& values) {
 }
 
 // Qt sends the same event when another cell becomes the current one. A screen reader does not read out again the
-// object that has its focus already, so the inspector gets it in between.
+// object that has its focus already, so the message below the table gets it in between.
 void QtInspectorWidget::announce(const QModelIndex& current) {
     if (!QAccessible::isActive() || !view_->hasFocus()) return;
     auto* table = QAccessible::queryAccessibleInterface(view_)->tableInterface();
     int visible = 0;  // index among the visible rows; hidden rows have no accessible cells
     for (int row = 0; row < current.row(); ++row)
         if (!view_->isRowHidden(row, {})) ++visible;
-    QAccessibleEvent between(this, QAccessible::Focus);
+    makeMessage();
+    QAccessibleEvent between(message_, QAccessible::Focus);
     QAccessible::updateAccessibility(&between);
     QAccessibleEvent event(table->cellAt(visible, current.column()), QAccessible::Focus);
     QAccessible::updateAccessibility(&event);
 }
 
+void QtInspectorWidget::makeMessage() {
+    if (message_) return;
+    message_ = new QLabel(this);
+    message_->setWordWrap(true);
+    message_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    message_->setMargin(4);
+    layout()->addWidget(message_);
+    message_->hide();
+}
+
 void QtInspectorWidget::say(const QString& text) {
-    if (!message_) {
-        message_ = new QLabel(this);
-        message_->setWordWrap(true);
-        message_->setTextInteractionFlags(Qt::TextSelectableByMouse);
-        message_->setMargin(4);
-        layout()->addWidget(message_);
-        message_->hide();
-    }
+    makeMessage();
     message_->setText(message_->isHidden() ? text : message_->text() + '\n' + text);
     message_->show();
     if (!QAccessible::isActive() || !view_->hasFocus()) return;
@@ -456,7 +460,9 @@ void QtInspectorWidget::say(const QString& text) {
 }
 
 void QtInspectorWidget::clearMessage() {
-    if (message_) message_->hide();
+    if (!message_) return;
+    message_->hide();
+    message_->clear();
 }
 
 }  // namespace tiv::properties

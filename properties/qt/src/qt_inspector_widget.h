@@ -95,6 +95,7 @@ class QtInspectorWidget : public QWidget {
     void unhide(const std::vector<PropertyValue>& values);
     void announce(const QModelIndex& current);
     void say(const QString& text);
+    void makeMessage();
     void clearMessage();
 
     std::shared_ptr<Properties> properties_;

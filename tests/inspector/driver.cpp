@@ -80,9 +80,8 @@ QAbstractItemView* Driver::list() const {
 
 QStringList Driver::offered() const {
     QStringList texts;
-    if (const auto* open = list())
-        for (int i = 0; i < open->model()->rowCount(); ++i)
-            texts << open->model()->index(i, 0).data().toString();
+    for (int i = 0; list() && i < list()->model()->rowCount(); ++i)
+        texts << list()->model()->index(i, 0).data().toString();
     return texts;
 }
 

@@ -11,17 +11,13 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
-#include <QEvent>
 #include <QHeaderView>
 #include <QImage>
 #include <QLineEdit>
-#include <QLocale>
 #include <QProxyStyle>
 #include <QScreen>
 #include <QScrollBar>
-#include <QShortcut>
 #include <QTest>
-#include <QVBoxLayout>
 
 #include <private/qguiapplication_p.h>
 #include <qpa/qplatformaccessibility.h>
@@ -33,7 +29,6 @@
 #include <functional>
 #include <memory>
 #include <random>
-#include <vector>
 
 #if defined(__GLIBC__)
 #include <malloc.h>
@@ -312,35 +307,28 @@ TEST(Inspector, CutsNothingAt460Pixels) {
 }
 
 TEST(Inspector, HasRoomForEveryTextInOneLineAtItsHint) {
-    const QFont before = QApplication::font();
     Host host(EchoData::PLAX2, json(R"("full":99)"));
     Driver& driver = *host.driver;
-    QFont font = before;
-    const auto expectRoom = [&] {
+    QFont font = QApplication::font();
+    font.setBold(true);
+    for (const char* change : {"", "font", "language"}) {
+        if (change == std::string("font")) font.setPointSize(14), driver.widget->setFont(font);
+        speak(change == std::string("language"));
         host.window.resize(host.window.sizeHint());
         settle();
-        font.setBold(true);
         const QFontMetrics metrics(font);
         for (const QString& row : driver.rows()) {
             const QString label = row.section('=', 0, 0);
             EXPECT_GE(textWidth(driver, label, 0), metrics.horizontalAdvance(label)) << label.toStdString();
             EXPECT_LT(driver.cell(label, 1).height(), 2 * metrics.height());
             driver.click(label);
-            QStringList texts = driver.offered();
-            texts << row.section('=', 1).remove('*');
+            const QStringList texts = driver.offered() << row.section('=', 1).remove('*');
             for (const QString& text : texts)
                 EXPECT_GE(textWidth(driver, label, 1), metrics.horizontalAdvance(text)) << text.toStdString();
             driver.key(Qt::Key_Escape);
         }
         EXPECT_EQ(driver.view->verticalScrollBar()->maximum(), 0);
-    };
-    expectRoom();
-    font.setPointSize(14);
-    driver.widget->setFont(font);
-    expectRoom();
-    speak(true);
-    settle();
-    expectRoom();
+    }
     speak(false);
 }
 
@@ -361,7 +349,6 @@ TEST(Inspector, MovesItsDividerBetweenTheLeastWidthsOfBothSides) {
     };
     const int before = label();
     drag(300);
-    EXPECT_NEAR(label(), 300, 3);
     host.window.resize(940, 480);
     settle();
     EXPECT_NEAR(label(), 450, 20) << "the share of the labels stays";
@@ -404,14 +391,13 @@ int distance(const QImage& image, const QColor& colour) {
 
 TEST(Inspector, DrawsTextsAndSignsInTheColoursOfTheStyle) {
     PaleStyle pale;
-    struct Case {
+    const struct {
         QStyle* style;
         const char *sheet, *selected, *other;
-    };
-    const Case cases[] = {{&pale, "", "#202060", "#000000"},
+    } cases[] = {{&pale, "", "#202060", "#000000"},
         {nullptr, "QTreeView::item{color:#008000} QTreeView::item:selected{color:#800000;background:#fff0c0}",
             "#800000", "#008000"}};
-    for (const Case& one : cases) {
+    for (const auto& one : cases) {
         Host host(EchoData::ESK, json(R"("load":3,"lsum":3)"));
         Driver& driver = *host.driver;
         driver.widget->setFont(QFont("DejaVu Sans", 20));
@@ -479,26 +465,20 @@ TEST(Inspector, LeavesNothingBehind) {
 
 // What is destroyed first, and what the inspector is doing then.
 TEST(Inspector, SurvivesEveryOrderOfDestruction) {
-    struct Case {
+    const struct {
         const char* doing;
         std::function<void(Driver&)> gesture;
         bool changes = false;  // the record, whose observer then destroys
-    };
-    const Case cases[] = {
+    } cases[] = {
         {"idle", [](Driver&) {}},
         {"list open", [](Driver& driver) { driver.click("Loads"); }},
         {"filter focused", [](Driver& driver) { driver.key(Qt::Key_F, Qt::ControlModifier); }},
         {"level clicked", [](Driver& driver) { driver.choose("Loads", "No output"); }, true},
         {"reset clicked", [](Driver& driver) { driver.click("Loads", 2); }, true},
-        {"reset by key",
-            [](Driver& driver) {
-                driver.click("Loads", 0, Qt::ControlModifier);
-                driver.key(Qt::Key_Delete);
-            },
-            true},
+        {"reset by key", [](Driver& driver) { driver.type("l"), driver.key(Qt::Key_Delete); }, true},
     };
     for (const std::string victim : {"widget", "parent", "echo"})
-        for (const Case& one : cases)
+        for (const auto& one : cases)
             for (const bool bySignal : {false, true}) {
                 SCOPED_TRACE(victim + ", " + one.doing);
                 auto table = tiv::echo::data::makeInternalData(EchoData::ESK, everyElement());

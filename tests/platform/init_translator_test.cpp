@@ -18,12 +18,8 @@
 
 namespace {
 
-QString loads() {
-    return QCoreApplication::translate("EchoData", "Loads");
-}
-
-QString groups() {
-    return QCoreApplication::translate("EchoData", "Groups");
+QString shown(const char* text) {
+    return QCoreApplication::translate("EchoData", text);
 }
 
 struct OwnWords : QTranslator {
@@ -37,19 +33,19 @@ TEST(Catalogue, FollowsTheLanguagesOfTheApplicationBehindTheTranslatorsOfTheHost
     test::speak(true);
     QLibrary library(TIV_LIBRARY);
     ASSERT_TRUE(library.load()) << library.errorString().toStdString();
-    EXPECT_EQ(loads(), "Lasten") << "at once, from the library itself";
+    EXPECT_EQ(shown("Loads"), "Lasten") << "at once, from the library itself";
     test::speak(false);
-    EXPECT_EQ(loads(), "Loads");
+    EXPECT_EQ(shown("Loads"), "Loads");
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Austria));
     OwnWords own;
     QCoreApplication::installTranslator(&own);
-    EXPECT_EQ(loads(), "Lasten");
-    EXPECT_EQ(groups(), "Abschnitte");
+    EXPECT_EQ(shown("Loads"), "Lasten");
+    EXPECT_EQ(shown("Groups"), "Abschnitte");
     test::speak(false);
     test::speak(true);
-    EXPECT_EQ(groups(), "Abschnitte");
+    EXPECT_EQ(shown("Groups"), "Abschnitte");
     QCoreApplication::removeTranslator(&own);
-    EXPECT_EQ(groups(), "Gruppen");
+    EXPECT_EQ(shown("Groups"), "Gruppen");
     test::speak(false);
 }
 
@@ -59,7 +55,7 @@ TEST(Catalogue, IsThatOfTheMostWantedLanguage) {
         {"en:de", "Loads"}, {"de:en", "Lasten"}, {"nl:en:de", "Loads"}, {"nl:de", "Lasten"}};
     const auto print = [] {
         QLibrary(TIV_LIBRARY).load();
-        std::cerr << loads().toStdString();
+        std::cerr << shown("Loads").toStdString();
         std::_Exit(0);
     };
     const QByteArray before = qgetenv("LANGUAGE");
@@ -87,8 +83,8 @@ TEST(Catalogue, OfAThirdLanguageIsAFileBesideTheLibraryOrInItsShareFolder) {
         QLocale::setDefault(QLocale(QLocale::French));
         QLibrary library(path);
         ASSERT_TRUE(library.load()) << library.errorString().toStdString();
-        EXPECT_EQ(loads(), "Charges") << place;
-        EXPECT_EQ(groups(), "Groups") << "a text that the file lacks";
+        EXPECT_EQ(shown("Loads"), "Charges") << place;
+        EXPECT_EQ(shown("Groups"), "Groups") << "a text that the file lacks";
     }
     test::speak(false);
 }

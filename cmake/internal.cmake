@@ -10,3 +10,7 @@ else()
         -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor -Wold-style-cast
         $<$<BOOL:${TIV_WARNINGS_AS_ERRORS}>:-Werror>)
 endif()
+if(TIV_QT EQUAL 6)
+    # The sources use the forms that Qt 5.15 has, too; Qt 6 deprecates some of them.
+    target_compile_definitions(tiv_internal INTERFACE QT_NO_DEPRECATED_WARNINGS)
+endif()

@@ -108,7 +108,7 @@ std::function<void()> run(const Verb* verb, const QStringList& words) {
     QCommandLineParser parser;
     parser.addOptions({helpOption(), versionOption()});
     if (verb) parser.addOptions(verb->options);
-    const int skipped = verb ? verb->name.count(QLatin1Char(' ')) + 1 : 0;
+    const auto skipped = verb ? verb->name.count(QLatin1Char(' ')) + 1 : 0;
     const bool understood = parser.parse(QStringList(QStringLiteral("echotable")) + words.mid(skipped));
 
     if (parser.isSet(helpOption())) return print(verb ? helpOf(*verb, parser) : generalHelp()), nullptr;

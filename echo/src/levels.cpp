@@ -84,7 +84,8 @@ void offerLevels(properties::Properties& properties) {
         properties::NamedValues& entries = known[levels];
         if (!entries) {
             NamedLevels offered;
-            for (const OutPutType level : levels) offered.push_back((*names)[level]);
+            for (const OutPutType level : levels)
+                offered.push_back((*names)[static_cast<std::size_t>(level)]);
             entries = std::make_shared<const NamedLevels>(std::move(offered));
         }
         properties::Configuration& configuration = property->configuration;

@@ -184,7 +184,8 @@ int PropertyView::widthOf(const QString& text) const {
     const auto known = widths_.constFind(text);
     if (known != widths_.constEnd()) return *known;
     const QStringList words = text.split(QLatin1Char(' '));
-    qreal width = words.size() == 1 ? bold_.horizontalAdvance(text) : (words.size() - 1) * space_;
+    qreal width =
+        words.size() == 1 ? bold_.horizontalAdvance(text) : static_cast<qreal>(words.size() - 1) * space_;
     if (words.size() > 1)
         for (const QString& word : words) width += widthOf(word);
     return *widths_.insert(text, static_cast<int>(std::ceil(width)));

@@ -16,11 +16,20 @@ cache=$(realpath "$2")
 here=$(dirname "$(realpath "$0")")
 version=$(dpkg-deb --field "$packages"/echotable_*.deb Version)
 
-echo "== Permissions"
+echo "== Permissions, maintainer scripts and notices"
 for package in "$packages"/*.deb; do
     if dpkg-deb --contents "$package" | grep -v '^drwxr-xr-x root/root\|^-rw-r--r-- root/root\|^lrwx\|^-rwxr-xr-x root/root .* ./usr/bin/'; then
         echo "$package: unexpected permissions" && exit 1
     fi
+    if dpkg-deb --ctrl-tarfile "$package" | tar -t | grep -E '^\./(pre|post)(inst|rm)$'; then
+        echo "$package: has maintainer scripts" && exit 1
+    fi
+    [[ $package != *-dbgsym_* ]] || continue
+    notice=$(dpkg-deb --fsys-tarfile "$package" | tar -xO --wildcards './usr/share/doc/*/copyright')
+    [[ $notice == *"Milo Yip"* ]] || { echo "$package: lacks the notice of RapidJSON" && exit 1; }
+done
+for package in libtiv-{smartassert1,dbo1,echotable1,echotable-qt6-1} echotable echohost; do
+    compgen -G "$packages/$package-dbgsym_*.deb" >/dev/null || { echo "$package-dbgsym is missing" && exit 1; }
 done
 
 root=$(mktemp --directory "$cache/root.XXXXXX")
@@ -48,6 +57,7 @@ if [ ! -e "$cache/base.tar" ]; then
 else
     tar -C "$root" -xf "$cache/base.tar"
 fi
+chmod 755 "$root"
 cd "$root/root" # where commands inside begin
 cp -r "$packages" packages
 cp -r "$here/consumer" consumer
@@ -65,6 +75,18 @@ for page in echotable echohost; do
         sh -c "zcat /usr/share/man/man1/$page.1.gz | head -n 1"
 done
 inside echotable programs
+
+echo "== A later version of the libraries"
+mkdir later
+for package in libtiv-{dbo1,smartassert1,echotable1}; do
+    dpkg-deb --raw-extract "$packages/$package"_*.deb "later/$package"
+    sed -i "s/^Version: .*/Version: $version+later/" "later/$package/DEBIAN/control"
+    dpkg-deb --build "later/$package" "later/$package.deb" >/dev/null
+done
+put ./later/*.deb
+check "echotable $version" echotable --version
+check "echohost $version" echohost --version
+put --allow-downgrades ./packages/libtiv-{dbo1,smartassert1,echotable1}_*.deb
 
 for qt in 5 6; do
     echo "== Development files for Qt $qt"

@@ -1,5 +1,7 @@
 #include "apps/echohost/programs.h"
 
+#include <tiv/echo/echo_data.h>
+
 #include <QCoreApplication>
 
 #include <iterator>
@@ -26,6 +28,8 @@ constexpr struct {
     {"kurta", QT_TRANSLATE_NOOP("Program", "Without output options")},
     {"rova", QT_TRANSLATE_NOOP("Program", "Load trains")},
 };
+
+static_assert(std::size(programs) == tiv::echo::EchoData::ROVA + 1);
 
 bool isKnown(int type) {
     return type >= 0 && type < programCount();

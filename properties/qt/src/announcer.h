@@ -1,0 +1,38 @@
+// Shows the user what a gesture has done: the first changed row in view, and messages below the table. A screen
+// reader reads out both.
+#pragma once
+
+#include "properties/definitions/property.h"
+
+#include <QString>
+
+#include <vector>
+
+class QLabel;
+class QModelIndex;
+
+namespace tiv::properties {
+
+class PropertyView;
+class ShownRows;
+
+class Announcer {
+ public:
+    Announcer(PropertyView* view, const ShownRows* shown) : view_(view), shown_(shown) {}
+
+    // Makes the first of these rows the current one, in view. A screen reader reads it out.
+    void reveal(const std::vector<PropertyValue>& values);
+    // Adds the text to the message below the table.
+    void say(const QString& text);
+    void clear();
+
+ private:
+    void announce(const QModelIndex& current);
+    void makeMessage();
+
+    PropertyView* view_;
+    const ShownRows* shown_;
+    QLabel* message_ = nullptr;  // made when it is first needed
+};
+
+}  // namespace tiv::properties

@@ -1,0 +1,28 @@
+// What an inspector asks of the owner of the record.
+#pragma once
+
+#include "properties/definitions/property.h"
+
+#include <QString>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+class QMimeData;
+
+namespace tiv::properties {
+
+// Every function may be empty.
+struct InspectorHost {
+    std::function<bool()> isEditable;   // empty: always
+    std::function<void()> retranslate;  // the language has changed: give the properties their texts
+    std::function<QString()> name;      // of the table, for screen readers
+    std::function<QString()> setTo;     // title of the menu of values; empty: there is no such menu
+    std::function<QString(const Property&)> keyword;           // the property's word in the user's input text
+    std::function<std::unique_ptr<QMimeData>()> copySettings;  // all settings; null while there are none
+    // The values of settings in the clipboard. Throws std::exception when it holds none for this record.
+    std::function<std::vector<PropertyValue>(const QMimeData&)> readSettings;
+};
+
+}  // namespace tiv::properties

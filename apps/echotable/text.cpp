@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
+#include <QVector>
 
 #include <algorithm>
 #include <cerrno>
@@ -43,8 +44,7 @@ QByteArray start(QFile& file) {
 // UTF-16 after its byte-order mark, otherwise UTF-8.
 QString decoded(const QByteArray& bytes) {
     if (!bytes.startsWith("\xff\xfe") && !bytes.startsWith("\xfe\xff")) return QString::fromUtf8(bytes);
-    const auto size = bytes.size() / sizeof(char16_t);
-    return QString::fromUtf16(reinterpret_cast<const char16_t*>(bytes.constData()), int(size));
+    return QString::fromUtf16(reinterpret_cast<const char16_t*>(bytes.constData()), bytes.size() / 2);
 }
 
 // The file at the end of the links that `name` leads to. A link in /dev or /proc leads to no file: "/dev/stdout"
@@ -131,9 +131,9 @@ QString jsonText(const QJsonDocument& document) {
 }
 
 QString aligned(const std::vector<QStringList>& rows) {
-    std::vector<qsizetype> widths;
+    QVector<qsizetype> widths;
     for (const QStringList& row : rows) {
-        widths.resize(std::max(widths.size(), std::size_t(row.size())));
+        widths.resize(std::max(widths.size(), row.size()));
         for (int i = 0; i < row.size(); ++i) widths[i] = std::max(widths[i], qsizetype(row[i].size()));
     }
     QString text;

@@ -18,26 +18,34 @@ background() {
     children+=($!)
 }
 
+waitFor() { # <command>...: until it succeeds, for half a minute
+    local tries=300
+    until "$@"; do
+        [ $((tries -= 1)) -gt 0 ] || { echo "Waited too long for: $*" >&2; exit 1; }
+        sleep 0.1
+    done
+}
+
 Xvfb -displayfd 3 -screen 0 1024x768x24 3>"$scratch/display" 2>>"$scratch/background.log" &
 children+=($!)
-until [ -s "$scratch/display" ]; do sleep 0.1; done
+waitFor test -s "$scratch/display"
 DISPLAY=:$(cat "$scratch/display")
 export DISPLAY QT_QPA_PLATFORM=xcb QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 NO_AT_BRIDGE=0
 export SPEECHD_CMD=/nonexistent # no voice: the log has what Orca speaks
 background openbox
 background /usr/libexec/at-spi-bus-launcher --launch-immediately
-until gdbus call --session --dest org.a11y.Bus --object-path /org/a11y/bus --method org.a11y.Bus.GetAddress \
-    >/dev/null 2>&1; do sleep 0.1; done
+waitFor gdbus call --session --dest org.a11y.Bus --object-path /org/a11y/bus --method org.a11y.Bus.GetAddress \
+    >>"$scratch/background.log" 2>&1
 background /usr/bin/python3 "$here/start_orca.py" --replace --debug-file="$log"
-until grep -qs 'Screen reader on' "$log"; do sleep 0.2; done
+waitFor grep -qs 'Screen reader on' "$log"
 
 spoken() { # <first line of the log>
     tail -n "+$1" "$log" | sed -nE "s/^.*SPEECH OUTPUT: '(.*)'[ {].*$/\1/p"
 }
 
 quiet() { # waits until Orca has no more to say
-    local before=-1 now
-    while now=$(wc -l <"$log") && [ "$now" != "$before" ]; do
+    local before=-1 now tries=12
+    while now=$(wc -l <"$log") && [ "$now" != "$before" ] && [ $((tries -= 1)) -gt 0 ]; do
         before=$now
         sleep 2.5
     done
@@ -62,7 +70,7 @@ step() { # <expected> <key>...: keys of xdotool; "" for none
 
 "$bin/echotable" edit esk --settings "$scratch/settings.txt" --elements all 2>"$scratch/stderr" &
 children+=($!)
-xdotool search --sync --onlyvisible --name settings.txt windowfocus >/dev/null
+waitFor xdotool search --onlyvisible --name settings.txt windowfocus >>"$scratch/background.log" 2>&1
 # shellcheck source=tests/orca/steps.sh
 . "$here/steps.sh"
 if grep -v keyEventError "$scratch/stderr"; then # which Qt prints while Orca is slow

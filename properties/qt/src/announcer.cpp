@@ -11,6 +11,9 @@
 
 namespace tiv::properties {
 
+Announcer::Announcer(PropertyView* view, const ShownRows* shown)
+    : view_(view), shown_(shown), announcement_(view) {}
+
 void Announcer::reveal(const std::vector<PropertyValue>& values) {
     const int row = shown_->firstOf(values);
     if (row < 0) return;
@@ -26,38 +29,27 @@ void Announcer::reveal(const std::vector<PropertyValue>& values) {
     if (isCurrent) announce(first);
 }
 
-// Qt sends the same event when another cell becomes the current one. A screen reader does not read out again the
-// object that has its focus already, so the message below the table gets it in between.
+// Qt sends an event when another cell becomes the current one, but none that is read out when the value changes.
 void Announcer::announce(const QModelIndex& current) {
     if (!QAccessible::isActive() || !view_->hasFocus()) return;
-    auto* table = QAccessible::queryAccessibleInterface(view_)->tableInterface();
-    int visible = 0;  // index among the visible rows; hidden rows have no accessible cells
-    for (int row = 0; row < current.row(); ++row)
-        if (!view_->isRowHidden(row, {})) ++visible;
-    makeMessage();
-    QAccessibleEvent between(message_, QAccessible::Focus);
-    QAccessible::updateAccessibility(&between);
-    QAccessibleEvent event(table->cellAt(visible, current.column()), QAccessible::Focus);
-    QAccessible::updateAccessibility(&event);
-}
-
-void Announcer::makeMessage() {
-    if (message_) return;
-    message_ = new QLabel(view_->parentWidget());
-    message_->setWordWrap(true);
-    message_->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    message_->setMargin(4);
-    message_->parentWidget()->layout()->addWidget(message_);
-    message_->hide();
+    const QString label = current.siblingAtColumn(RecordItemModel::LabelColumn).data().toString();
+    const QString state = current.data(Qt::AccessibleDescriptionRole).toString();
+    announcement_.make(
+        label + QStringLiteral(". ") + current.data().toString() + QStringLiteral(". ") + state);
 }
 
 void Announcer::say(const QString& text) {
-    makeMessage();
+    if (!message_) {
+        message_ = new QLabel(view_->parentWidget());
+        message_->setWordWrap(true);
+        message_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        message_->setMargin(4);
+        message_->parentWidget()->layout()->addWidget(message_);
+        message_->hide();
+    }
     message_->setText(message_->isHidden() ? text : message_->text() + '\n' + text);
     message_->show();
-    if (!QAccessible::isActive() || !view_->hasFocus()) return;
-    QAccessibleEvent event(message_, QAccessible::Focus);  // the only event of a label that is spoken
-    QAccessible::updateAccessibility(&event);
+    if (view_->hasFocus()) announcement_.make(message_->text());
 }
 
 void Announcer::clear() {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "properties/definitions/property.h"
+#include "properties/qt/src/announcement.h"
 
 #include <QString>
 
@@ -18,7 +19,7 @@ class ShownRows;
 
 class Announcer {
  public:
-    Announcer(PropertyView* view, const ShownRows* shown) : view_(view), shown_(shown) {}
+    Announcer(PropertyView* view, const ShownRows* shown);
 
     // Makes the first of these rows the current one, in view. A screen reader reads it out.
     void reveal(const std::vector<PropertyValue>& values);
@@ -28,10 +29,10 @@ class Announcer {
 
  private:
     void announce(const QModelIndex& current);
-    void makeMessage();
 
     PropertyView* view_;
     const ShownRows* shown_;
+    Announcement announcement_;
     QLabel* message_ = nullptr;  // made when it is first needed
 };
 

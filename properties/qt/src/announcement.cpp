@@ -1,0 +1,55 @@
+#include "properties/qt/src/announcement.h"
+
+#include <QWidget>
+
+#include <utility>
+
+namespace tiv::properties {
+namespace {
+
+// It is no child of its parent: it is there for its event only.
+class Notification : public QAccessibleInterface {
+ public:
+    Notification(QWidget* parent, QString text) : parent_(parent), text_(std::move(text)) {}
+
+    bool isValid() const override { return true; }
+    QObject* object() const override { return nullptr; }
+    QAccessibleInterface* childAt(int /*x*/, int /*y*/) const override { return nullptr; }
+    QAccessibleInterface* parent() const override { return QAccessible::queryAccessibleInterface(parent_); }
+    QAccessibleInterface* child(int /*index*/) const override { return nullptr; }
+    int childCount() const override { return 0; }
+    int indexOfChild(const QAccessibleInterface* /*child*/) const override { return -1; }
+    QString text(QAccessible::Text kind) const override {
+        return kind == QAccessible::Name ? text_ : QString();
+    }
+    void setText(QAccessible::Text /*kind*/, const QString& /*text*/) override {}
+    QRect rect() const override { return {}; }
+    QAccessible::Role role() const override { return QAccessible::Notification; }
+    QAccessible::State state() const override { return {}; }
+
+ private:
+    QWidget* parent_;
+    QString text_;
+};
+
+}  // namespace
+
+Announcement::~Announcement() {
+    drop();
+}
+
+// A new interface for each text: screen readers keep the name of one that they know.
+void Announcement::make(const QString& text) {
+    if (!QAccessible::isActive()) return;
+    drop();
+    auto* notification = new Notification(parent_, text);
+    id_ = QAccessible::registerAccessibleInterface(notification);  // which takes it
+    QAccessibleEvent event(notification, QAccessible::ObjectShow);
+    QAccessible::updateAccessibility(&event);
+}
+
+void Announcement::drop() {
+    if (id_ != 0) QAccessible::deleteAccessibleInterface(std::exchange(id_, 0));
+}
+
+}  // namespace tiv::properties

@@ -29,7 +29,7 @@ std::optional<dbo::Task> find(const std::vector<dbo::Task>& rows, const std::str
 
 dbo::ElementCounts elementCounts(int database) {
     dbo::ElementCounts counts{};
-    dbo::hasQuads(database, &counts[0]);
+    dbo::hasQuads(database, counts.data());
     dbo::hasBrics(database, &counts[1]);
     dbo::hasBeams(database, &counts[2]);
     dbo::hasCables(database, &counts[3]);
@@ -136,7 +136,7 @@ bool Project::save(const Ask& ask) {
         std::vector<dbo::TaskChange> changes;
         for (const dbo::Task& row : removed_) changes.push_back({row, std::nullopt});
         for (const auto& task : tasks_)
-            if (task->isChanged() && dropped.count(task.get()) == 0)
+            if (task->isChanged() && !dropped.contains(task.get()))
                 changes.push_back({task->stored(), task->row()});
         const auto conflicts = dbo::changeTasks(database, changes);
         if (conflicts.empty()) break;

@@ -80,6 +80,7 @@ TIV_DBO_EXPORT int createProject(const std::string& path);
 /// Creates a project file with its elements, in one transaction, and opens it. As createProject(path).
 /// \param path of the file.
 /// \param counts how many elements there are of each kind.
+/// \returns the handle, for the caller to close.
 /// \throws std::invalid_argument "Elements: expected 0 or more, got <count>.".
 TIV_DBO_EXPORT int createProject(const std::string& path, const ElementCounts& counts);
 
@@ -125,6 +126,7 @@ struct Task {
     int programType;       ///< EchoData::ProgrammTypes
     std::string settings;  ///< any text; kept byte for byte
 
+    /// All three members are equal.
     friend bool operator==(const Task& left, const Task& right) {
         return left.name == right.name && left.programType == right.programType &&
                left.settings == right.settings;

@@ -192,7 +192,7 @@ int PropertyView::widthOf(const QString& text) const {
 }
 
 QString PropertyView::fitted(const QModelIndex& cell) const {
-    const QString text = cell.data().toString();
+    QString text = cell.data().toString();
     if (cell.column() != labelColumn || !breaksWords_) return text;
     const QFontMetrics metrics = boldOption(labelColumn).fontMetrics;
     const int room = columnWidth(labelColumn) - labels_.margins;

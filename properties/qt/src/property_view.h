@@ -32,7 +32,7 @@ class PropertyView : public QTreeView {
     // The text of a cell, with places to break the words that are wider than its column.
     QString fitted(const QModelIndex& cell) const;
     // An arrow that turns back: the sign of a changed value, and its reset button.
-    static QString resetSign() { return QString(QChar(0x21BA)); }
+    static QString resetSign() { return QChar(0x21BA); }
     // Leaves room behind the text for the arrow of a list.
     void makeRoomForArrow(QStyleOptionViewItem& option) const;
     // Opens the editor of the row.

@@ -23,5 +23,4 @@ update() { # <folder of sources> <catalogue>...
 
 inspector_texts >echo/i18n/inspector_texts.h
 update echo echo/i18n/*.ts
-update apps/echohost apps/echohost/*.ts
-update apps/echotable apps/echotable/*.ts
+update apps apps/texts/*.ts

@@ -1,8 +1,8 @@
 #include "apps/echohost/main_window.h"
 
 #include "apps/echohost/dialogs.h"
-#include "apps/echohost/messages.h"
 #include "apps/echohost/programs.h"
+#include "apps/texts/reasons.h"
 #include "ui_main_window.h"
 
 #include <QActionGroup>
@@ -27,6 +27,9 @@
 
 namespace echohost {
 namespace {
+
+using tiv::apps::Languages;
+using tiv::apps::translatedReason;
 
 enum Choice { AsSet, AllOff, AllFull };
 

@@ -7,8 +7,8 @@
 #pragma once
 
 #include "apps/echohost/appearance.h"
-#include "apps/echohost/languages.h"
 #include "apps/echohost/project.h"
+#include "apps/texts/languages.h"
 
 #include <tiv/smartassert/smart_assert.h>
 
@@ -87,7 +87,7 @@ class MainWindow : public QMainWindow {
 
     tiv::smartassert::Reporter previousReporter_;
     Appearance appearance_;
-    Languages languages_;
+    tiv::apps::Languages languages_;
     std::unique_ptr<Ui::MainWindow> ui_;
     std::map<const QObject*, QPointer<QWidget>> pages_;  // of the echo tables that were shown
     std::unique_ptr<Project> project_;                   // null until one is open

@@ -2,6 +2,8 @@
 #include "apps/echotable/table.h"
 #include "apps/echotable/task.h"
 #include "apps/echotable/text.h"
+#include "apps/texts/languages.h"
+#include "apps/texts/reasons.h"
 #include "echo/src/inspector.h"
 
 #include <boost/signals2/connection.hpp>
@@ -11,12 +13,10 @@
 #include <QDialogButtonBox>
 #include <QFile>
 #include <QFileInfo>
-#include <QLibraryInfo>
 #include <QLocale>
 #include <QMessageBox>
 #include <QScreen>
 #include <QStyle>
-#include <QTranslator>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -66,7 +66,9 @@ class Window : public QDialog {
             if (document_.save(settings, false) || (mayOverwrite() && document_.save(settings, true)))
                 QDialog::accept();
         } catch (const std::exception& problem) {
-            showMessage(QMessageBox::Critical, QString::fromUtf8(problem.what()), QMessageBox::Ok);
+            showMessage(QMessageBox::Critical,
+                apps::translatedReason(QString::fromUtf8(problem.what())),
+                QMessageBox::Ok);
         }
     }
 
@@ -141,22 +143,9 @@ Document documentOf(const QString& file, const QString& before, const std::share
     return {name, titleOf(name, *table), table, save};
 }
 
-// Installs a catalogue, until it is destroyed, for the first of the application's languages that has one or is
-// English, in which the texts are written.
-void install(QTranslator& texts, const QString& name, const QString& folder) {
-    for (const QString& language : QLocale().uiLanguages()) {
-        const QLocale locale(language);
-        if (locale.language() == QLocale::English || locale.language() == QLocale::C) return;
-        if (!texts.load(locale, name, QStringLiteral("_"), folder)) continue;
-        QCoreApplication::installTranslator(&texts);
-        return;
-    }
-}
-
 void open(const Document& document) {
-    QTranslator buttons, questions;
-    install(buttons, QStringLiteral("qtbase"), QLibraryInfo::location(QLibraryInfo::TranslationsPath));
-    install(questions, QStringLiteral("echotable"), QStringLiteral(":/echotable"));
+    apps::Languages languages;
+    languages.choose(QLocale());
     Window(document).exec();
 }
 

@@ -28,8 +28,11 @@ class EchotableTool : public testing::Test {
     }
 
     std::string shell(const QString& command, const QByteArray& input = {}) const {
-        return execute(
-            "bash", {"-c", "echotable() { " TIV_ECHOTABLE " \"$@\"; }; echotable" + command}, input);
+        return execute("bash",
+            {"-c", "tool=\"" TIV_ECHOTABLE "\" french=\"" TIV_FRENCH
+                   "\"; echotable() { \"$tool\" \"$@\"; }; echotable" +
+                       command},
+            input);
     }
 
     std::string execute(const QString& program, const QStringList& words, const QByteArray& input) const {

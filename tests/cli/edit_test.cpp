@@ -59,7 +59,8 @@ std::string asked(Button answer, const std::function<void()>& action) {
 TEST(EditWindow, LosesNoEditWithoutAQuestion) {
     const QTemporaryDir folder;
     QFile file(folder.filePath("static.txt"));
-    const std::string question = "static.txt has unsaved changes.";
+    QLocale::setDefault(QLocale::French);  // tests/data/french has a few texts
+    const std::string question = "static.txt a été modifié.";
     const struct {
         const char *before, *chosen;
         Button left;
@@ -77,8 +78,8 @@ TEST(EditWindow, LosesNoEditWithoutAQuestion) {
     for (const auto& step : steps) {
         edit({"esk", "--settings", file.fileName()}, [&](test::Driver window) {
             EXPECT_EQ(window.widget->windowTitle(), "static.txt[*] - esk");
-            EXPECT_EQ(window.row("Loads"), step.before);
-            window.choose("Loads", step.chosen);
+            EXPECT_EQ(window.row("Charges"), step.before);
+            window.choose("Charges", step.chosen);
             EXPECT_EQ(window.widget->isWindowModified(), QString(step.before).remove('*') != step.chosen);
             EXPECT_EQ(asked(step.answer, [&] { leave(window, step.left); }), step.asked);
             EXPECT_EQ(window.widget->isVisible(), step.answer == Button::Cancel);
@@ -87,18 +88,30 @@ TEST(EditWindow, LosesNoEditWithoutAQuestion) {
         EXPECT_EQ(file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray(), step.saved);
         file.close();
     }
+    test::speak(false);
 }
 
-TEST(EditWindow, StaysOpenWhenItCannotSave) {
-    const QString file = QTemporaryDir().filePath("static.txt");  // its folder is gone
-    edit({"esk", "--settings", file}, [&](test::Driver window) {
-        window.choose("Loads", "Full output");
-        EXPECT_EQ(
-            asked(Button::Ok, [&] { leave(window, Button::Ok); }), file.toStdString() + ": no such folder");
-        EXPECT_TRUE(window.widget->isVisible());
-        EXPECT_EQ(window.row("Loads"), "Full output*");
-        asked(Button::Discard, [&] { leave(window, Button::Cancel); });
-    });
+TEST(EditWindow, StaysOpenWhenItCannotSaveAndGivesTheReasonInGerman) {
+    const QTemporaryDir folder;
+    const QString settings = folder.filePath("missing/static.txt"), project = folder.filePath("P");
+    const int database = tiv::dbo::createProject(project.toStdString());
+    tiv::dbo::storeTask(database, {"static", 3, "CgAA\n"});
+    tiv::dbo::closeProject(database);
+    test::speak(true);
+    const std::pair<QStringList, QString> rows[] = {
+        {{"--project", project, "--task", "static"}, project + ": Datei nicht vorhanden"},
+        {{"esk", "--settings", settings}, settings + ": Ordner nicht vorhanden"},
+    };
+    for (const auto& [words, error] : rows)
+        edit(words, [&](test::Driver window) {
+            QFile::remove(project);
+            window.choose("Lasten", "Vollständige Ausgabe");
+            EXPECT_EQ(asked(Button::Ok, [&] { leave(window, Button::Ok); }), error.toStdString());
+            EXPECT_TRUE(window.widget->isVisible());
+            EXPECT_EQ(window.row("Lasten"), "Vollständige Ausgabe*");
+            asked(Button::Discard, [&] { leave(window, Button::Cancel); });
+        });
+    test::speak(false);
 }
 
 TEST(EditWindow, AsksInGermanBeforeItSavesOverAnotherProgramsChange) {

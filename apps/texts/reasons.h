@@ -1,11 +1,11 @@
-// Error texts of the libraries, in the window's language.
+// Error texts of the libraries, in the language of the windows.
 #pragma once
 
 #include <QString>
 
-namespace echohost {
+namespace tiv::apps {
 
 // "<path>: <reason>", or a reason alone, with its reason translated. Unknown reasons stay as they are.
 QString translatedReason(const QString& text);
 
-}  // namespace echohost
+}  // namespace tiv::apps

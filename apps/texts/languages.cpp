@@ -1,4 +1,4 @@
-#include "apps/echohost/languages.h"
+#include "apps/texts/languages.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -8,18 +8,21 @@
 
 #include <algorithm>
 
-namespace echohost {
+// The resources of a static library are registered by hand, outside of namespaces.
+static void registerCatalogues() {
+    Q_INIT_RESOURCE(echo_apps_translations);
+}
+
+namespace tiv::apps {
 namespace {
 
-constexpr const char* ownCatalogue = "echohost_";
+constexpr const char* ownCatalogue = "echo_apps_";
 constexpr const char* libraryCatalogue = "tiv_echotable_dll_";
 
 QStringList folders() {
+    registerCatalogues();
     const QString program = QCoreApplication::applicationDirPath();
-    return {program,
-        program + QStringLiteral("/" TIV_CATALOGUES),
-        QStringLiteral(":/echohost"),
-        QStringLiteral(":/tiv/translations")};
+    return {program, program + QStringLiteral("/" TIV_CATALOGUES), QStringLiteral(":/tiv/translations")};
 }
 
 bool isEnglish(const QLocale& locale) {
@@ -52,7 +55,11 @@ QLocale Languages::current() {
     for (const QString& name : QLocale().uiLanguages()) {
         const QLocale wanted(name);
         if (isEnglish(wanted)) break;
-        const auto found = std::find(languages.begin(), languages.end(), wanted);
+        auto found = std::find(languages.begin(), languages.end(), wanted);
+        if (found == languages.end())
+            found = std::find_if(languages.begin(), languages.end(), [&](const QLocale& language) {
+                return language.language() == wanted.language();
+            });
         if (found != languages.end()) return *found;
     }
     return languages.front();
@@ -71,4 +78,4 @@ void Languages::choose(const QLocale& locale) {
     QCoreApplication::sendEvent(QCoreApplication::instance(), &change);
 }
 
-}  // namespace echohost
+}  // namespace tiv::apps

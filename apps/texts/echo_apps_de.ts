@@ -45,6 +45,17 @@
     </message>
 </context>
 <context>
+    <name>EditWindow</name>
+    <message>
+        <source>%1 was changed by another program. Save over it?</source>
+        <translation>%1 wurde von einem anderen Programm geändert. Trotzdem speichern?</translation>
+    </message>
+    <message>
+        <source>%1 has unsaved changes.</source>
+        <translation>%1 hat ungespeicherte Änderungen.</translation>
+    </message>
+</context>
+<context>
     <name>Program</name>
     <message>
         <source>Cross sections, ultimate limit state</source>
@@ -211,7 +222,127 @@
     </message>
     <message>
         <source>invalid number of %1</source>
-        <translation>ungültige Anzahl von %1</translation>
+        <translation>ungültige Anzahl: %1</translation>
+    </message>
+    <message>
+        <source>the file was replaced</source>
+        <translation>die Datei wurde ersetzt</translation>
+    </message>
+    <message>
+        <source>quads</source>
+        <translation>Viereckelemente</translation>
+    </message>
+    <message>
+        <source>brics</source>
+        <translation>Volumenelemente</translation>
+    </message>
+    <message>
+        <source>beams</source>
+        <translation>Stäbe</translation>
+    </message>
+    <message>
+        <source>cables</source>
+        <translation>Seile</translation>
+    </message>
+    <message>
+        <source>springs</source>
+        <translation>Federn</translation>
+    </message>
+    <message>
+        <source>database disk image is malformed</source>
+        <translation>die Projektdatei ist beschädigt</translation>
+    </message>
+    <message>
+        <source>longer than 64 MiB</source>
+        <translation>länger als 64 MiB</translation>
+    </message>
+    <message>
+        <source>no such folder</source>
+        <translation>Ordner nicht vorhanden</translation>
+    </message>
+    <message>
+        <source>too many links</source>
+        <translation>zu viele Verknüpfungen</translation>
+    </message>
+    <message>
+        <source>Disk quota exceeded</source>
+        <translation>das Speicherkontingent ist erschöpft</translation>
+    </message>
+    <message>
+        <source>File name too long</source>
+        <translation>Dateiname zu lang</translation>
+    </message>
+    <message>
+        <source>Input/output error</source>
+        <translation>Fehler beim Lesen oder Schreiben</translation>
+    </message>
+    <message>
+        <source>Not a directory</source>
+        <translation>kein Ordner</translation>
+    </message>
+    <message>
+        <source>Too many levels of symbolic links</source>
+        <translation>zu viele Verknüpfungen</translation>
+    </message>
+    <message>
+        <source>The document is empty.</source>
+        <translation>kein Text</translation>
+    </message>
+    <message>
+        <source>The document root must not be followed by other values.</source>
+        <translation>Text nach dem Ende</translation>
+    </message>
+    <message>
+        <source>Invalid value.</source>
+        <translation>ungültiger Wert</translation>
+    </message>
+    <message>
+        <source>Missing a name for object member.</source>
+        <translation>Name fehlt</translation>
+    </message>
+    <message>
+        <source>Missing a colon after a name of object member.</source>
+        <translation>Doppelpunkt fehlt</translation>
+    </message>
+    <message>
+        <source>Missing a comma or &apos;}&apos; after an object member.</source>
+        <translation>Komma oder } fehlt</translation>
+    </message>
+    <message>
+        <source>Missing a comma or &apos;]&apos; after an array element.</source>
+        <translation>Komma oder ] fehlt</translation>
+    </message>
+    <message>
+        <source>Incorrect hex digit after \u escape in string.</source>
+        <translation>falsche Ziffer nach \u</translation>
+    </message>
+    <message>
+        <source>The surrogate pair in string is invalid.</source>
+        <translation>ungültiges Surrogatpaar</translation>
+    </message>
+    <message>
+        <source>Invalid escape character in string.</source>
+        <translation>ungültiges Zeichen nach \</translation>
+    </message>
+    <message>
+        <source>Missing a closing quotation mark in string.</source>
+        <translation>schließendes Anführungszeichen fehlt</translation>
+    </message>
+    <message>
+        <source>Invalid encoding in string.</source>
+        <translation>ungültige Zeichenkodierung</translation>
+    </message>
+    <message>
+        <source>Number too big to be stored in double.</source>
+        <translation>Zahl zu groß</translation>
+    </message>
+    <message>
+        <source>Miss fraction part in number.</source>
+        <translation>Nachkommastellen fehlen</translation>
+    </message>
+    <message>
+        <source>Miss exponent in number.</source>
+        <translation>Exponent fehlt</translation>
     </message>
 </context>
 <context>
@@ -370,7 +501,7 @@
     </message>
     <message>
         <source>%1 has unsaved changes.</source>
-        <translation>%1 enthält ungesicherte Änderungen.</translation>
+        <translation>%1 hat ungespeicherte Änderungen.</translation>
     </message>
     <message>
         <source>Export ECHO lines</source>

@@ -28,9 +28,7 @@ class Form {
  public:
     Form(QWidget* parent, const QString& title) : dialog_(parent) {
         dialog_.setWindowTitle(title);
-        auto* layout = new QVBoxLayout(&dialog_);
-        layout->addLayout(rows_);
-        layout->addWidget(buttons_);
+        layout_->addLayout(rows_);
         QObject::connect(buttons_, &QDialogButtonBox::accepted, &dialog_, &QDialog::accept);
         QObject::connect(buttons_, &QDialogButtonBox::rejected, &dialog_, &QDialog::reject);
     }
@@ -60,10 +58,14 @@ class Form {
         return name;
     }
 
-    bool isAccepted() { return dialog_.exec() == QDialog::Accepted; }
+    bool isAccepted() {
+        layout_->addWidget(buttons_);  // behind the fields in the tab order, too: the first one has the focus
+        return dialog_.exec() == QDialog::Accepted;
+    }
 
  private:
     QDialog dialog_;
+    QVBoxLayout* layout_ = new QVBoxLayout(&dialog_);
     QFormLayout* rows_ = new QFormLayout;
     QDialogButtonBox* buttons_ = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
 };

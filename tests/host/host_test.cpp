@@ -54,59 +54,84 @@ class Host : public testing::Test {
     void answerDialog() {
         QWidget* dialog = QApplication::activeModalWidget();
         if (!dialog) return;
-        const QString answer = answers.isEmpty() ? QString() : answers.takeFirst();
-        if (auto* box = qobject_cast<QMessageBox*>(dialog)) {
+        const bool isExpected = !answers.isEmpty();
+        const QString answer = isExpected ? answers.takeFirst() : QString();
+        const auto* box = qobject_cast<QMessageBox*>(dialog);
+        if (box) {
             said << box->text().remove(folder.path() + '/');
             EXPECT_EQ(box->textFormat(), Qt::PlainText);
-            if (answer == "Enter") return QTest::keyClick(box, Qt::Key_Return);
-            return press(box, answer);
+        }
+        if (answer == "Enter") return QTest::keyClick(dialog, Qt::Key_Return);
+        for (auto* button : dialog->findChildren<QAbstractButton*>())
+            if (isExpected && button->text().remove('&') == answer) return button->click();
+        if (box || !isExpected) {
+            ADD_FAILURE() << "no button " << answer.toStdString() << " in "
+                          << dialog->windowTitle().toStdString();
+            return void(dialog->close());
         }
         if (auto* files = qobject_cast<QFileDialog*>(dialog)) {
             files->selectFile(file(answer));
             return void(QMetaObject::invokeMethod(files, "accept"));
         }
-        if (auto* name = dialog->findChild<QLineEdit*>("name")) name->setText(answer.section('/', 0, 0));
+        QApplication::setActiveWindow(dialog);
+        if (dialog->findChild<QLineEdit*>("name"))
+            QTest::keyClicks(dialog->focusWidget(), answer.section('/', 0, 0));
         if (auto* program = dialog->findChild<QComboBox*>())
             program->setCurrentIndex(answer.section('/', 1).toInt());
         const auto counts = dialog->findChildren<QSpinBox*>();
         for (int i = 0; i < counts.size(); ++i) counts[i]->setValue(answer.section(' ', i, i).toInt());
-        const auto* ok = dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
-        if (!ok->isEnabled()) said << "refused";
-        press(dialog, ok->isEnabled() ? "OK" : "Cancel");
-    }
-    static void press(QWidget* dialog, const QString& text) {
-        for (auto* button : dialog->findChildren<QAbstractButton*>())
-            if (button->text().remove('&') == text) return button->click();
-        ADD_FAILURE() << "no button " << text.toStdString() << " in " << dialog->metaObject()->className();
+        auto* ok = dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
+        if (ok->isEnabled()) return ok->click();
+        for (const auto* label : dialog->findChildren<QLabel*>())
+            if (label->wordWrap()) said << "refused: " + label->text();
         dialog->close();
     }
 
     QString file(const QString& name) const { return folder.filePath(name); }
+    // As a menu shows it; of a file, its name.
+    QString textOf(const QAction* action) const {
+        return action->text().remove('&').remove(folder.path() + '/');
+    }
     void trigger(const QString& text) const {
         emit window->findChild<QMenu*>("recentMenu")->aboutToShow();
         for (QAction* action : window->findChildren<QAction*>())
-            if (action->text().remove('&').remove(folder.path() + '/') == text) return action->trigger();
+            if (action->isEnabled() && textOf(action) == text) return action->trigger();
         ADD_FAILURE() << "no action " << text.toStdString();
+    }
+    QString entries(const char* menu, bool (QAction::*are)() const) const {
+        QStringList result;
+        auto* shown = window->findChild<QMenu*>(menu);
+        emit shown->aboutToShow();
+        for (const QAction* action : shown->actions())
+            if (!action->isSeparator() && (action->*are)()) result << textOf(action);
+        return result.join('|');
     }
     void chooseAbove(const QString& text) const {
         for (auto* box : window->findChildren<QComboBox*>())
             if (box->findText(text) >= 0) return box->setCurrentText(text);
         ADD_FAILURE() << "no choice " << text.toStdString();
     }
-    void drop(const QString& name) const {
+    // Files, or an address.
+    QString drop(const QString& list) const {
+        QList<QUrl> urls;
+        for (const QString& name : list.split(", "))
+            urls << (name.contains("://") ? QUrl(name) : QUrl::fromLocalFile(file(name)));
         QMimeData data;
-        data.setUrls({QUrl::fromLocalFile(file(name))});
+        data.setUrls(urls);
         QDragEnterEvent enter({9, 99}, Qt::CopyAction, &data, Qt::LeftButton, {});
+        enter.ignore();
         QApplication::sendEvent(window.get(), &enter);
-        ASSERT_TRUE(enter.isAccepted());
+        if (!enter.isAccepted()) return "refused";
         QDropEvent drop({9, 99}, Qt::CopyAction, &data, Qt::LeftButton, {});
         QApplication::sendEvent(window.get(), &drop);
+        return "taken";
     }
     void select(int row) const { tasks()->setCurrentItem(tasks()->topLevelItem(row)); }
     QTreeWidget* tasks() const { return window->findChild<QTreeWidget*>(); }
-    QString names() const {
+    QString names(int column) const {
         QStringList result;
-        for (int i = 0; i < tasks()->topLevelItemCount(); ++i) result << tasks()->topLevelItem(i)->text(0);
+        for (int i = 0; i < tasks()->topLevelItemCount(); ++i)
+            result << tasks()->topLevelItem(i)->text(column);
         return result.join('|');
     }
     Driver inspector() const { return Driver(window->findChild<QStackedWidget*>()->currentWidget()); }
@@ -119,6 +144,16 @@ class Host : public testing::Test {
             QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
         }
         result.removeDuplicates();
+        return result.join('|');
+    }
+    QSplitter* panels() const { return window->findChild<QSplitter*>(); }
+    void drag(int width) const {
+        const int rest = panels()->width() - 2 * panels()->handleWidth() - width;
+        panels()->setSizes({width, rest / 2, rest - rest / 2});
+    }
+    QString choices() const {
+        QStringList result;
+        for (const auto* box : window->findChildren<QComboBox*>()) result << box->currentText();
         return result.join('|');
     }
     QLabel* message() const { return window->findChild<QLabel*>("message"); }
@@ -169,9 +204,12 @@ TEST_F(Host, KeepsToItsSessions) {
     };
     const Does does{
         {"project", [&](const Words&) { makeProject(); }},
+        {"locale", [&](const Words& w) { QSettings().clear(), QLocale::setDefault(QLocale(w.all)); }},
         {"restart", [&](const Words&) { openWindow(); }},
         {"open", [&](const Words& w) { expect(w.value), window->openProject(file(w.label)); }},
-        {"drop", [&](const Words& w) { drop(w.all); }},
+        {"drop", [&](const Words& w) { expect(w.value), drop(w.label); }},
+        {"press", [&](const Words& w) { QTest::keySequence(window->focusWidget(), QKeySequence(w.all)); }},
+        {"activate", [&](const Words&) { tasks()->setFocus(), QTest::keyClick(tasks(), Qt::Key_Return); }},
         {"select", [&](const Words& w) { expect(w.value), select(w.label.toInt()); }},
         {"change", [&](const Words& w) { inspector().choose(w.label, w.value); }},
         {"do", [&](const Words& w) { expect(w.value), trigger(w.label); }},
@@ -184,6 +222,7 @@ TEST_F(Host, KeepsToItsSessions) {
         {"lock", lock},
         {"unlock", [&](const Words&) { sqlite3_close(other); }},
         {"resize", [&](const Words& w) { window->resize(w.all.toInt(), 333); }},
+        {"drag", [&](const Words& w) { drag(w.all.toInt()); }},
         {"close", [&](const Words& w) { expect(w.all), window->close(); }},
     };
     const Sees sees{
@@ -193,9 +232,21 @@ TEST_F(Host, KeepsToItsSessions) {
         {"width", [&](const Words&) { return QString::number(window->width()); }},
         {"style", [&](const Words&) { return QApplication::style()->objectName(); }},
         {"colour", [&](const Words&) { return window->palette().window().color().name(); }},
+        {"panel", [&](const Words&) { return QString::number(panels()->sizes()[0]); }},
         {"stops", [&](const Words&) { return stops(); }},
-        {"tasks", [&](const Words&) { return names(); }},
-        {"heading", [&](const Words&) { return tasks()->headerItem()->text(0); }},
+        {"focus", [&](const Words&) { return window->focusWidget()->accessibleName(); }},
+        {"dropped", [&](const Words& w) { return w.label + ": " + drop(w.label); }},
+        {"file-menu", [&](const Words&) { return entries("fileMenu", &QAction::isEnabled); }},
+        {"task-menu", [&](const Words&) { return entries("taskMenu", &QAction::isEnabled); }},
+        {"languages", [&](const Words&) { return entries("languageMenu", &QAction::isVisible); }},
+        {"language", [&](const Words&) { return entries("languageMenu", &QAction::isChecked); }},
+        {"recent", [&](const Words&) { return entries("recentMenu", &QAction::isVisible); }},
+        {"choices", [&](const Words&) { return choices(); }},
+        {"tasks", [&](const Words&) { return names(0); }},
+        {"programs", [&](const Words&) { return names(1); }},
+        {"tip", [&](const Words&) { return tasks()->currentItem()->toolTip(1); }},
+        {"heading", [&](const Words&) { return window->findChild<QLabel*>("heading")->text(); }},
+        {"header", [&](const Words&) { return tasks()->headerItem()->text(0); }},
         {"rows", [&](const Words&) { return inspector().rows().join('|'); }},
         {"row", [&](const Words& w) { return w.label + " = " + inspector().row(w.label); }},
         {"message", [&](const Words&) { return message()->isVisible() ? message()->text() : ""; }},

@@ -1,21 +1,22 @@
 #include "properties/qt/src/announcement.h"
 
-#include <QWidget>
+#include <QCoreApplication>
 
 #include <utility>
 
 namespace tiv::properties {
 namespace {
 
-// It is no child of its parent: it is there for its event only.
+// It is there for its event only, and no child of its parent. That is the application: in a dialog, Orca would read
+// out the dialog and its labels first.
 class Notification : public QAccessibleInterface {
  public:
-    Notification(QWidget* parent, QString text) : parent_(parent), text_(std::move(text)) {}
+    explicit Notification(QString text) : text_(std::move(text)) {}
 
     bool isValid() const override { return true; }
     QObject* object() const override { return nullptr; }
     QAccessibleInterface* childAt(int /*x*/, int /*y*/) const override { return nullptr; }
-    QAccessibleInterface* parent() const override { return QAccessible::queryAccessibleInterface(parent_); }
+    QAccessibleInterface* parent() const override { return QAccessible::queryAccessibleInterface(qApp); }
     QAccessibleInterface* child(int /*index*/) const override { return nullptr; }
     int childCount() const override { return 0; }
     int indexOfChild(const QAccessibleInterface* /*child*/) const override { return -1; }
@@ -28,7 +29,6 @@ class Notification : public QAccessibleInterface {
     QAccessible::State state() const override { return {}; }
 
  private:
-    QWidget* parent_;
     QString text_;
 };
 
@@ -42,7 +42,7 @@ Announcement::~Announcement() {
 void Announcement::make(const QString& text) {
     if (!QAccessible::isActive()) return;
     drop();
-    auto* notification = new Notification(parent_, text);
+    auto* notification = new Notification(text);
     id_ = QAccessible::registerAccessibleInterface(notification);  // which takes it
     QAccessibleEvent event(notification, QAccessible::ObjectShow);
     QAccessible::updateAccessibility(&event);

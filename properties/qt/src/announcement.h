@@ -3,14 +3,12 @@
 
 #include <QAccessible>
 
-class QWidget;
-
 namespace tiv::properties {
 
 // A text that a screen reader reads out while the focus stays where it is.
 class Announcement {
  public:
-    explicit Announcement(QWidget* parent) : parent_(parent) {}
+    Announcement() = default;
     ~Announcement();
 
     Announcement(const Announcement&) = delete;
@@ -21,7 +19,6 @@ class Announcement {
  private:
     void drop();
 
-    QWidget* parent_;
     QAccessible::Id id_ = 0;  // of the last one; 0: none yet
 };
 

@@ -11,8 +11,7 @@
 
 namespace tiv::properties {
 
-Announcer::Announcer(PropertyView* view, const ShownRows* shown)
-    : view_(view), shown_(shown), announcement_(view) {}
+Announcer::Announcer(PropertyView* view, const ShownRows* shown) : view_(view), shown_(shown) {}
 
 void Announcer::reveal(const std::vector<PropertyValue>& values) {
     const int row = shown_->firstOf(values);

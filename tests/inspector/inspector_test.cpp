@@ -229,6 +229,41 @@ TEST(Inspector, IsReadOutByAScreenReader) {
     platform->setActive(false);
 }
 
+// As by an assistive program, without keys and mouse; some rows are hidden.
+TEST(Inspector, IsOperatedByPressingItsCells) {
+    Host host(EchoData::ESK);
+    Driver& driver = *host.driver;
+    driver.key(Qt::Key_F, Qt::ControlModifier);
+    driver.type("load");
+    const auto cell = [](QWidget* view, int row, int column) {
+        return QAccessible::queryAccessibleInterface(view)->tableInterface()->cellAt(row, column);
+    };
+    const auto actions = [&](int column) { return cell(driver.view, 0, column)->actionInterface(); };
+    const QString press = QAccessibleActionInterface::pressAction();
+    actions(1)->doAction(press);
+    settle();
+    ASSERT_EQ(driver.offered().value(3), "Full output");
+    cell(driver.list(), 3, 0)->actionInterface()->doAction(press);
+    settle();
+    EXPECT_EQ(driver.row("Loads"), "Full output*");
+    EXPECT_TRUE(driver.hasFocus());
+    auto* tree = QAccessible::queryAccessibleInterface(driver.view);
+    for (int i = 0; i < tree->childCount(); ++i) {
+        const QPoint at = tree->child(i)->rect().center();
+        EXPECT_EQ(tree->indexOfChild(tree->child(i)), i);
+        EXPECT_TRUE(i < 3 || tree->childAt(at.x(), at.y()) == tree->child(i)) << i;
+    }
+    actions(2)->doAction(press);
+    settle();
+    EXPECT_EQ(driver.row("Loads"), "Default output");
+    for (const int column : {0, 2}) EXPECT_FALSE(actions(column)->actionNames().contains(press));
+    host.window.setEnabled(false);
+    EXPECT_EQ(actions(1)->actionNames(), QStringList());
+    auto* gone = cell(driver.view, 0, 1);
+    qobject_cast<QtInspectorWidget*>(driver.widget)->setPropertyFilterFunction({});
+    EXPECT_TRUE(!gone->isValid() && gone->rect().isEmpty() && gone->text(QAccessible::Name).isEmpty());
+}
+
 // An object of another type under the record's key is no record.
 TEST(Inspector, ShowsNothingOfAnotherRecord) {
     const auto table = tiv::echo::data::makeInternalData(EchoData::ESK, everyElement());

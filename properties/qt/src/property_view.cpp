@@ -1,6 +1,7 @@
 #include "properties/qt/src/property_view.h"
 
 #include "properties/definitions/paths.h"
+#include "properties/qt/src/accessible_cells.h"
 #include "properties/qt/src/record_item_model.h"
 
 #include <QApplication>
@@ -47,6 +48,7 @@ QString broken(const QString& word, const QFontMetrics& metrics, int width) {
 }  // namespace
 
 PropertyView::PropertyView(QWidget* parent) : QTreeView(parent), bold_(font()) {
+    installAccessibleCells();
     setRootIsDecorated(false);
     setUniformRowHeights(true);
     setAlternatingRowColors(true);
@@ -68,10 +70,20 @@ PropertyView::PropertyView(QWidget* parent) : QTreeView(parent), bold_(font()) {
     });
 }
 
-// A click on a label only selects its row.
 void PropertyView::onClicked(const QModelIndex& cell) {
     if (QApplication::keyboardModifiers() & (Qt::ControlModifier | Qt::ShiftModifier))
         return;  // selects rows
+    press(cell);
+}
+
+// A click on a label only selects its row.
+bool PropertyView::isPressable(const QModelIndex& cell) const {
+    if (!(cell.siblingAtColumn(valueColumn).flags() & Qt::ItemIsEditable)) return false;
+    return cell.column() == valueColumn ||
+           (cell.column() == resetColumn && cell.data(RecordItemModel::ChangedRole).toBool());
+}
+
+void PropertyView::press(const QModelIndex& cell) {
     if (cell.column() == valueColumn) editRow(cell);
     if (cell.column() == resetColumn) emit resetRequested(cell);
 }

@@ -35,6 +35,10 @@ class PropertyView : public QTreeView {
     static QString resetSign() { return QChar(0x21BA); }
     // Leaves room behind the text for the arrow of a list.
     void makeRoomForArrow(QStyleOptionViewItem& option) const;
+    // Whether a click on the cell does more than to select its row.
+    bool isPressable(const QModelIndex& cell) const;
+    // What the click does.
+    void press(const QModelIndex& cell);
     // Opens the editor of the row.
     void editRow(const QModelIndex& index);
     // Applies pending row changes now, so that accessible cells exist.

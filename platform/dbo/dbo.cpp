@@ -107,6 +107,11 @@ int numberOf(const Project& project, const char* pragma) {
     return step(project, statement) ? sqlite3_column_int(statement.get(), 0) : 0;
 }
 
+// File system, SQLite and exceptions cut texts off at NUL.
+bool hasNul(const std::string& path) {
+    return path.find('\0') != std::string::npos;
+}
+
 std::filesystem::path fileOf(const std::string& path) {
     return std::u8string(path.begin(), path.end());
 }
@@ -311,8 +316,8 @@ int createProject(const std::string& path, const ElementCounts& counts) {
         if (count < 0)
             throw std::invalid_argument("Elements: expected 0 or more, got " + std::to_string(count) + ".");
     }
-    // An empty name would open a temporary database, and SQLite cuts names off at NUL.
-    if (fileOf(path).filename().empty() || path.find('\0') != std::string::npos) refuse(path, "no file name");
+    // An empty name would open a temporary database.
+    if (fileOf(path).filename().empty() || hasNul(path)) refuse(path.c_str(), "no file name");
     std::error_code ignored;
     const auto status = std::filesystem::status(fileOf(path), ignored);
     const bool isNew = path == temporary || !std::filesystem::exists(status);
@@ -329,6 +334,7 @@ int createProject(const std::string& path, const ElementCounts& counts) {
 }
 
 int openProject(const std::string& path) {
+    if (hasNul(path)) refuse(path.c_str(), "no such file");
     std::error_code error;
     const auto status = std::filesystem::status(fileOf(path), error);
     if (!std::filesystem::status_known(status)) refuse(path, error.message());

@@ -85,12 +85,16 @@ TEST_F(Project, isCreatedOnlyWhereNoFileIsAndOpenedOnlyFromAProjectFile) {
         {openProject, file("n1"), "invalid number of brics", setCount + "-1 WHERE kind = 1"},
         {openProject, file("n4"), "invalid number of springs", setCount + "2147483648 WHERE kind = 4"},
         {openProject, file("n0"), "invalid number of quads", setCount + "1.5 WHERE kind = 0"},
+        {openProject, file("n9"), "the file is damaged",
+            "PRAGMA ignore_check_constraints = 1; INSERT INTO elements VALUES (9, -1)"},
         {openProject, file("g"), "the file is damaged", damageRoots},
     };
     for (const auto& row : rows) {
         if (!row.sql.empty()) QFile::copy(path.c_str(), row.path.c_str()), execute(row.path, row.sql);
         EXPECT_EQ(failureOf([&] { row.call(row.path); }), row.path + ": " + row.reason);
     }
+    EXPECT_EQ(failureOf([&] { createProject(path + '\0' + 'y'); }), path + ": no file name");
+    EXPECT_EQ(failureOf([&] { openProject(path + '\0' + 'y'); }), path + ": no such file");
 }
 
 TEST_F(Project, whoseTextsAreDamagedIsRefused) {

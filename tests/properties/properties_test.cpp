@@ -4,6 +4,8 @@
 #include "support/every_type.h"
 #include "support/failure.h"
 
+#include <QSize>
+
 #include <gtest/gtest.h>
 
 #include <limits>
@@ -92,6 +94,7 @@ TEST_F(EveryProperty, KeepsAValueThatFitsAndRefusesOneThatDoesNot) {
         {4, "wide", {}},
         {4, std::numeric_limits<double>::quiet_NaN(), {}},
         {5, QString::fromUtf8("Träger"), QString::fromUtf8("Träger")},
+        {5, QSize(1, 2), {}},
         {7, 99, 99},  // any 32-bit number
         {7, 1LL << 32, {}},
         {7, std::numeric_limits<qulonglong>::max(), {}},
@@ -115,7 +118,7 @@ TEST_F(EveryProperty, KeepsAValueThatFitsAndRefusesOneThatDoesNot) {
 TEST_F(EveryProperty, AcceptsOnlyAsManyDecimalPlacesAsItHas) {
     const auto isAccepted = DefaultValidatorFactory().create(*properties.list[4]);
     for (const QVariant& fits : {QVariant("-1.25"), QVariant(1e15)}) EXPECT_TRUE(isAccepted(fits));
-    for (const QVariant& other : {QVariant(1.255), QVariant("wide")}) EXPECT_FALSE(isAccepted(other));
+    for (const QVariant& other : {QVariant(1.2505), QVariant("wide")}) EXPECT_FALSE(isAccepted(other));
 }
 
 TEST(FromBond, RefusesAWeightThatIsNoWhole32BitNumber) {
@@ -142,16 +145,24 @@ TEST(Configuration, IsATreeWhosePathsHaveNoEmptyNames) {
     EXPECT_EQ(*configuration.get<int>("a.b.c"), 1);
 }
 
-TEST(Xlator, AsksItsLookupWithTheBoundStructsKeysAndGeneratesALocaleOnce) {
-    tiv::translation::Xlator xlator(
-        [](const std::string& key, const char* text) { return QString("%1=%2").arg(key.c_str(), text); });
-    EXPECT_EQ(xlator.text("prop.full", "Full"), "Full");
-    configure_xlator(xlator, "test.EveryType");
-    EXPECT_EQ(xlator.text("on.tooltip", "Full"), "test.EveryType:on.tooltip=Full");
+TEST_F(EveryProperty, HasItsTextsFromTheTranslator) {
+    const auto xlator = std::make_shared<tiv::translation::Xlator>(
+        [](const std::string& path, const char* text) { return QString("%1=%2").arg(path.c_str(), text); });
+    properties.xlator = xlator;
+    EXPECT_EQ(label(properties, *properties.list[0]), "Yes");
+    configure_xlator(*xlator, "T");
+    EXPECT_EQ(label(properties, *properties.list[0]), "T:yes=Yes");
+    EXPECT_EQ(tooltip(properties, *properties.list[0]), "T:yes.tooltip=Whether it is on");
+    EXPECT_EQ(tooltip(properties, *properties.list[1]), QString());
+    EXPECT_EQ(category(properties, *properties.list[1]), "T:i8: category=General");
+}
+
+TEST(Xlator, GeneratesALocaleOnce) {
+    tiv::translation::Xlator xlator({});
     const std::locale& german = xlator.locale("de_DE");
     EXPECT_EQ(&german, &xlator.locale("de_DE"));
     EXPECT_EQ(&german, &xlator.locale("de_DE.ISO8859-1"));
-    EXPECT_NE(&german, &xlator.locale("en_GB"));
+    EXPECT_NE(&german, &xlator.locale("de_AT"));
 }
 
 }  // namespace

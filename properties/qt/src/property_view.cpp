@@ -1,7 +1,6 @@
 #include "properties/qt/src/property_view.h"
 
 #include "properties/definitions/paths.h"
-#include "properties/qt/src/accessible_cells.h"
 #include "properties/qt/src/record_item_model.h"
 
 #include <QApplication>
@@ -48,7 +47,6 @@ QString broken(const QString& word, const QFontMetrics& metrics, int width) {
 }  // namespace
 
 PropertyView::PropertyView(QWidget* parent) : QTreeView(parent), bold_(font()) {
-    installAccessibleCells();
     setRootIsDecorated(false);
     setUniformRowHeights(true);
     setAlternatingRowColors(true);

@@ -1,5 +1,6 @@
 #include "properties/qt/src/qt_inspector_widget.h"
 
+#include "properties/qt/src/accessible_cells.h"
 #include "properties/qt/src/data_model_signals.h"
 #include "properties/qt/src/property_delegate.h"
 #include "properties/qt/src/property_view.h"
@@ -35,6 +36,7 @@ QtInspectorWidget::QtInspectorWidget(QWidget* parent, std::shared_ptr<Properties
       announcer_(view_, &shown_),
       clipboard_{properties_.get(), &host_, editor_, rows_, &shown_, &announcer_},
       commands_{&host_, editor_, rows_, view_, &shown_, &clipboard_, &announcer_} {
+    installAccessibleCells();
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(view_);

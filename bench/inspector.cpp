@@ -1,3 +1,4 @@
+#include "bench/peer_view.h"
 #include "bench/rooms.h"
 #include "bench/sample.h"
 
@@ -19,9 +20,7 @@ struct Table {
     QWidget* create() { return widgets.emplace_back(echo.createPropertyInspector(nullptr)).get(); }
     QWidget* show() {
         QWidget* widget = create();
-        widget->resize(460, 480);
-        widget->show();
-        QCoreApplication::processEvents();
+        showWidget(*widget);
         return widget;
     }
 
@@ -100,6 +99,14 @@ std::vector<Operation> inspectorOperations() {
         {"inspector, filter", filters},
         {"inspector, destroy", destroys, 5, 15},
     };
+}
+
+std::vector<Holding> inspectorHoldings() {
+    return shownHoldings("inspector,", [] {
+        static EchoData echo(plax2, project());
+        QWidget* const made = echo.createPropertyInspector(nullptr);
+        return std::pair<QWidget*, std::shared_ptr<void>>(made, made);
+    });
 }
 
 }  // namespace bench

@@ -32,6 +32,10 @@ std::vector<Operation> operations() {
 }
 
 std::vector<Holding> holdings() {
+    return viewHoldings<KView>("peer: KProperty,");
+}
+
+std::vector<Operation> peaks() {
     return {};
 }
 

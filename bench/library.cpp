@@ -2,8 +2,7 @@
 #include "bench/rooms.h"
 #include "bench/sample.h"
 
-#include <QCoreApplication>
-#include <QWidget>
+#include <memory>
 
 namespace bench {
 
@@ -14,18 +13,20 @@ std::vector<Operation> operations() {
     return all;
 }
 
+std::vector<Operation> peaks() {
+    return {{"insertXMLData, 64 MiB of small lines", [](int) -> Work {
+                 auto echo = std::make_shared<EchoData>(plax2, project());
+                 const QString line = QStringLiteral("CgAA\n");
+                 return [=, text = line.repeated((64 << 20) / line.size())] { echo->insertXMLData(text); };
+             }}};
+}
+
 std::vector<Holding> holdings() {
-    return {
-        {"EchoData, plax2", [] { return std::make_shared<EchoData>(plax2, project()); }},
-        {"inspector shown",
-            [] {
-                static EchoData echo(plax2, project());
-                std::shared_ptr<QWidget> widget(echo.createPropertyInspector(nullptr));
-                widget->show();
-                QCoreApplication::processEvents();
-                return widget;
-            }},
-    };
+    std::vector<Holding> all{
+        {"EchoData, plax2", [] { return std::make_shared<EchoData>(plax2, project()); }}};
+    for (const auto& some : {inspectorHoldings(), peerHoldings()})
+        all.insert(all.end(), some.begin(), some.end());
+    return all;
 }
 
 }  // namespace bench

@@ -1,6 +1,7 @@
 // bench                        times by Google Benchmark; --help lists its options
-// bench --count                under callgrind: counts each operation, in a dump named after it
-// bench --memory               the bytes kept by each object
+// bench --count [TEXT]         under callgrind: counts each operation, or those with TEXT in their names, in a dump
+//                              named after it
+// bench --memory               the bytes kept by each object, and those needed at the peak of a large operation
 #include "bench/operations.h"
 
 #include <QApplication>
@@ -8,6 +9,7 @@
 
 #include <benchmark/benchmark.h>
 #include <malloc.h>
+#include <sys/resource.h>
 #include <valgrind/callgrind.h>
 
 #include <cstdio>
@@ -42,7 +44,21 @@ void measure(const bench::Holding& holding) {
     const auto before = mallinfo2().uordblks;
     for (int i = 0; i < kept; ++i) alive.push_back(holding.make());
     const auto after = mallinfo2().uordblks;
-    std::printf("%s\t%zu\n", holding.name.c_str(), (after - before) / kept);
+    std::printf("%s: bytes kept\t%zu\n", holding.name.c_str(), (after - before) / kept);
+}
+
+// In bytes, the most that this process has ever used.
+long mostMemory() {
+    rusage usage{};
+    getrusage(RUSAGE_SELF, &usage);
+    return usage.ru_maxrss * 1024;
+}
+
+void measurePeak(const bench::Operation& operation) {
+    const bench::Work once = operation.prepare(1);
+    const long before = mostMemory();
+    once();
+    std::printf("%s: bytes at the peak\t%ld\n", operation.name.c_str(), mostMemory() - before);
 }
 
 void time(const bench::Operation& operation) {
@@ -58,10 +74,14 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QLoggingCategory::setFilterRules("*.debug=false\nqt.qpa.*=false\ndefault=false");
     const char* mode = argc > 1 ? argv[1] : "";
+    const char* only = argc > 2 ? argv[2] : "";
     if (std::strcmp(mode, "--memory") == 0) {
+        mallopt(M_MMAP_THRESHOLD, 128 * 1024);  // and not adapted: images of windows are never counted
+        for (const auto& operation : bench::peaks()) measurePeak(operation);
         for (const auto& holding : bench::holdings()) measure(holding);
     } else if (std::strcmp(mode, "--count") == 0) {
-        for (const auto& operation : bench::operations()) count(operation);
+        for (const auto& operation : bench::operations())
+            if (operation.name.find(only) != std::string::npos) count(operation);
     } else {
         for (const auto& operation : bench::operations()) time(operation);
         benchmark::Initialize(&argc, argv);

@@ -29,6 +29,7 @@ struct Holding {
 
 // The operations of this program.
 std::vector<Operation> operations();
+std::vector<Operation> peaks();  // measured by the memory that one run needs at its peak
 std::vector<Holding> holdings();
 
 }  // namespace bench

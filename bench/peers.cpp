@@ -47,4 +47,8 @@ std::vector<Operation> peerOperations() {
     return result;
 }
 
+std::vector<Holding> peerHoldings() {
+    return viewHoldings<BareView>("peer: bare QTreeView,");
+}
+
 }  // namespace bench

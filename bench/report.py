@@ -34,8 +34,8 @@ def counts():
 
 
 measured = counts()
-for name, kept in rows(folder / "memory.tsv"):
-    measured[name + ": bytes kept"] = int(kept)
+for name, bytes_ in rows(folder / "memory.tsv"):
+    measured[name] = int(bytes_)
 with open(folder / "times.csv", encoding="utf-8", newline="") as times:
     runs_timed = [row for row in csv.DictReader(times) if "_" not in row["name"]]  # and no statistics
 nanoseconds = [float(row["cpu_time"]) for row in runs_timed]

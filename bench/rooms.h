@@ -9,5 +9,7 @@ std::vector<Operation> tableOperations();      // EchoData without its inspector
 std::vector<Operation> inspectorOperations();  // EchoData with its inspector
 std::vector<Operation> projectOperations();    // the project database
 std::vector<Operation> peerOperations();       // the same work with plain Qt
+std::vector<Holding> inspectorHoldings();
+std::vector<Holding> peerHoldings();
 
 }  // namespace bench

@@ -130,22 +130,26 @@ QSize PropertyView::sizeOf(QStyleOptionViewItem& option, const QString& text) co
 void PropertyView::measure() const {
     if (isMeasured_ || !model()) return;
     isMeasured_ = true;
+    heights_.clear();
+    labelWidths_.clear();
     const auto* rows = static_cast<const RecordItemModel*>(model());
     const QStyleOptionViewItem bold = boldOption(labelColumn);
     const QFontMetrics& metrics = bold.fontMetrics;
     bold_ = QFontMetricsF(bold.font);
     space_ = bold_.horizontalAdvance(QLatin1Char(' '));
-    widths_.clear();
+    QHash<QString, int> known;
     const auto add = [&](Widths& widths, const QString& text) {
-        if (widths_.contains(text)) return;  // most levels are offered in every row
-        widths.line = std::max(widths.line, widthOf(text));
+        if (known.contains(text)) return;  // most levels are offered in every row
+        widths.line = std::max(widths.line, widthOf(text, known));
         for (const QString& word : text.split(QLatin1Char(' ')))
-            widths.word = std::max(widths.word, widthOf(word));
+            widths.word = std::max(widths.word, widthOf(word, known));
     };
     labels_ = values_ = {};
     for (int row = 0; row < rows->rowCount(); ++row) {
         const QModelIndex label = rows->index(row, labelColumn);
-        add(labels_, label.data().toString());
+        const QString text = label.data().toString();
+        add(labels_, text);
+        labelWidths_.push_back(widthOf(text, known));
         const auto property = rows->property(label);
         if (!property) continue;
         const int characters = property->columnWidth ? QString::fromUtf8(property->columnWidth).toInt() : 0;
@@ -173,32 +177,31 @@ void PropertyView::measure() const {
 
 int PropertyView::heightOf(const QModelIndex& cell) const {
     measure();
-    if (fitsInOneLine(cell)) return lineHeight_;
-    const auto known = heights_.constFind(cell.data().toString());
+    if (!wordWrap() || cell.column() == resetColumn) return lineHeight_;
+    const bool isLabel = cell.column() == labelColumn;
+    const int line =
+        isLabel ? labelWidths_[static_cast<std::size_t>(cell.row())] + labels_.margins : values_.line;
+    const int width = columnWidth(cell.column());
+    if (line <= width) return lineHeight_;
+    const QString text = cell.data().toString();
+    const auto known = heights_.constFind(text);
     if (known != heights_.constEnd()) return *known;
     QStyleOptionViewItem option = boldOption(cell.column());
     option.features |= QStyleOptionViewItem::WrapText;
-    option.rect.setWidth(columnWidth(cell.column()));
-    const int height = std::max(lineHeight_, sizeOf(option, fitted(cell)).height());
-    return *heights_.insert(cell.data().toString(), height);
-}
-
-bool PropertyView::fitsInOneLine(const QModelIndex& cell) const {
-    if (!wordWrap() || cell.column() == resetColumn) return true;
-    const Widths& needed = cell.column() == labelColumn ? labels_ : values_;
-    return widthOf(cell.data().toString()) + needed.margins <= columnWidth(cell.column());
+    option.rect.setWidth(width);
+    return *heights_.insert(text, std::max(lineHeight_, sizeOf(option, fitted(cell)).height()));
 }
 
 // The sum of its words: to shape a text costs most of measuring, and many texts share words.
-int PropertyView::widthOf(const QString& text) const {
-    const auto known = widths_.constFind(text);
-    if (known != widths_.constEnd()) return *known;
+int PropertyView::widthOf(const QString& text, QHash<QString, int>& known) const {
+    const auto found = known.constFind(text);
+    if (found != known.constEnd()) return *found;
     const QStringList words = text.split(QLatin1Char(' '));
     qreal width =
         words.size() == 1 ? bold_.horizontalAdvance(text) : static_cast<qreal>(words.size() - 1) * space_;
     if (words.size() > 1)
-        for (const QString& word : words) width += widthOf(word);
-    return *widths_.insert(text, static_cast<int>(std::ceil(width)));
+        for (const QString& word : words) width += widthOf(word, known);
+    return *known.insert(text, static_cast<int>(std::ceil(width)));
 }
 
 QString PropertyView::fitted(const QModelIndex& cell) const {
@@ -210,6 +213,11 @@ QString PropertyView::fitted(const QModelIndex& cell) const {
     for (QString& word : words)
         if (metrics.horizontalAdvance(word) > room) word = broken(word, metrics, room);
     return words.join(QLatin1Char(' '));
+}
+
+void PropertyView::reset() {
+    isMeasured_ = false;
+    QTreeView::reset();
 }
 
 void PropertyView::measureAgain() {
@@ -242,7 +250,7 @@ void PropertyView::fitColumns() {
     const int value = std::max(room - label, values_.word);
     const bool wraps = label < labels_.line || value < values_.line;
     breaksWords_ = label < labels_.word;
-    heights_.clear();
+    if (label != columnWidth(labelColumn) || value != columnWidth(valueColumn)) heights_.clear();
     header()->resizeSection(labelColumn, label);
     header()->resizeSection(valueColumn, value);
     header()->resizeSection(resetColumn, signWidth_);
@@ -335,8 +343,8 @@ QModelIndex PropertyView::moveCursor(CursorAction action, Qt::KeyboardModifiers 
 void PropertyView::dataChanged(const QModelIndex& first, const QModelIndex& last, const QVector<int>& roles) {
     QTreeView::dataChanged(first, last, roles);
     if (!isMeasured_ || first != last || first.column() != valueColumn) return;
-    // A value that is not offered may be wider than those that are.
-    if (widthOf(first.data().toString()) + values_.margins > values_.line) measureAgain();
+    // The widths include all values that are offered.
+    if (!static_cast<const RecordItemModel*>(model())->isOffered(first)) measureAgain();
 }
 
 // The columns come first, or the base class would ask for a scroll bar.

@@ -10,6 +10,7 @@
 #include <QTreeView>
 
 #include <optional>
+#include <vector>
 
 namespace tiv::properties {
 
@@ -19,6 +20,7 @@ class PropertyView : public QTreeView {
     explicit PropertyView(QWidget* parent);
 
     void setModel(QAbstractItemModel* model) override;
+    void reset() override;
     // Shown instead of rows when no row is visible.
     void setPlaceholder(const QString& text);
     // The rows or their texts have changed: makes room for them.
@@ -28,7 +30,7 @@ class PropertyView : public QTreeView {
     int heightOf(const QModelIndex& cell) const;
     // True if the cell intersects the current paint region. (QTreeView paints whole rows.)
     bool paints(const QRect& cell) const { return painted_.intersects(cell); }
-    bool fitsInOneLine(const QModelIndex& cell) const;
+    bool fitsInOneLine(const QModelIndex& cell) const { return heightOf(cell) == lineHeight_; }
     // The text of a cell, with places to break the words that are wider than its column.
     QString fitted(const QModelIndex& cell) const;
     // An arrow that turns back: the sign of a changed value, and its reset button.
@@ -79,7 +81,8 @@ class PropertyView : public QTreeView {
     int roomForTexts() const;
     void fitColumns();
     QStyleOptionViewItem boldOption(int column) const;
-    int widthOf(const QString& text) const;  // of a text in one line, without margins
+    // Of a text in one line, without margins. `known` holds those already measured.
+    int widthOf(const QString& text, QHash<QString, int>& known) const;
     QSize sizeOf(QStyleOptionViewItem& option, const QString& text) const;
     QSize sizeFor(int lines, int width) const;
 
@@ -90,8 +93,8 @@ class PropertyView : public QTreeView {
     mutable bool isMeasured_ = false;  // the next measures are then valid
     mutable QFontMetricsF bold_;
     mutable qreal space_ = 0;
-    mutable QHash<QString, int> widths_;   // of texts in one line, without margins
-    mutable QHash<QString, int> heights_;  // of wrapped texts, in the columns of the last layout
+    mutable std::vector<int> labelWidths_;  // by row, in one line, without margins
+    mutable QHash<QString, int> heights_;   // of wrapped texts, in the columns of the last layout
     mutable Widths labels_;
     mutable Widths values_;
     mutable int leastLabel_ = 0;  // below this width a horizontal scroll bar appears

@@ -21,7 +21,7 @@ const NamedValue* entryOf(const Property& property, std::string_view entriesPath
     return nullptr;
 }
 
-bool isOffered(const Property& property, const QVariant& value) {
+bool mayHold(const Property& property, const QVariant& value) {
     return !property.configuration.get<NamedValues>(path::editorEntries) ||
            entryOf(property, path::editorEntries, value);
 }
@@ -102,6 +102,11 @@ std::shared_ptr<const Property> RecordItemModel::property(const QModelIndex& ind
     return row.heading ? nullptr : row.property;
 }
 
+bool RecordItemModel::isOffered(const QModelIndex& index) const {
+    const auto row = property(index);
+    return row && entryOf(*row, path::editorEntries, current(*row));
+}
+
 int RecordItemModel::rowCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : static_cast<int>(rows_.size());
 }
@@ -112,7 +117,7 @@ int RecordItemModel::columnCount(const QModelIndex& parent) const {
 
 QString RecordItemModel::valueText(const Property& property, const QVariant& value) const {
     if (const NamedValue* entry = entryOf(property, path::editorEntries, value)) return entry->text;
-    if (isOffered(property, value)) return value.toString();
+    if (mayHold(property, value)) return value.toString();
     const NamedValue* known = entryOf(property, path::editorNames, value);
     return text("%1 (not offered)").arg(known ? known->text : value.toString());
 }
@@ -127,7 +132,7 @@ QString RecordItemModel::tooltipText(const Property& property, const QVariant& v
     if (!value.isValid()) return lines.join('\n');
     if (const NamedValue* explained = entryOf(property, path::editorExplanations, value))
         lines << explained->text;
-    if (!isOffered(property, value))
+    if (!mayHold(property, value))
         lines << text("The stored value %1 is not offered. It stays until another one is chosen.")
                      .arg(value.toString());
     return lines.join('\n');

@@ -40,6 +40,8 @@ class RecordItemModel : public QAbstractTableModel {
 
     // Null for a heading.
     std::shared_ptr<const Property> property(const QModelIndex& index) const;
+    // Whether the row's value is in the list that its property offers.
+    bool isOffered(const QModelIndex& index) const;
     bool isEditable() const { return isEditable_(); }
     // A property's value in the shown record; invalid while there is none.
     QVariant current(const Property& property) const { return record_->value(property); }

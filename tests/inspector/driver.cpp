@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QLabel>
-#include <QMenu>
 #include <QTest>
 #include <QWheelEvent>
 
@@ -12,6 +11,12 @@
 #include <algorithm>
 
 namespace test {
+
+QString texts(const QMenu& menu) {
+    QStringList result;
+    for (const QAction* entry : menu.actions()) result << (entry->isSeparator() ? "-" : entry->text());
+    return result.join('|');
+}
 
 Driver::Driver(QWidget* inspector) : widget(inspector), view(inspector->findChild<QTreeView*>()) {
     widget->resize(640, 480);
@@ -79,10 +84,22 @@ QAbstractItemView* Driver::list() const {
 }
 
 QStringList Driver::offered() const {
-    QStringList texts;
+    if (const auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) return {texts(*menu)};
+    QStringList result;
     for (int i = 0; list() && i < list()->model()->rowCount(); ++i)
-        texts << list()->model()->index(i, 0).data().toString();
-    return texts;
+        result << list()->model()->index(i, 0).data().toString();
+    return result;
+}
+
+bool Driver::hover(const QString& level) const {
+    auto* open = list();
+    const int entry = static_cast<int>(offered().indexOf(level));
+    if (!open || entry < 0) return false;
+    const QPoint at = open->visualRect(open->model()->index(entry, 0)).center();
+    QTest::mouseMove(open->viewport(), at - QPoint(1, 0));
+    QTest::mouseMove(open->viewport(), at);
+    settle();
+    return true;
 }
 
 QString Driver::marked() const {
@@ -140,8 +157,8 @@ void Driver::closeMenu() const {
     settle();
 }
 
-QString Driver::tip(const QString& label) const {
-    return view->indexAt(cell(label, 1).center()).data(Qt::ToolTipRole).toString();
+QString Driver::tip(const QString& label, int column) const {
+    return view->indexAt(cell(label, column).center()).data(Qt::ToolTipRole).toString();
 }
 
 QString Driver::message() const {

@@ -4,6 +4,7 @@
 #include "support/session.h"
 
 #include <QAction>
+#include <QMenu>
 #include <QPointer>
 #include <QString>
 #include <QStringList>
@@ -11,6 +12,9 @@
 #include <QWidget>
 
 namespace test {
+
+// Those of a menu.
+QString texts(const QMenu& menu);
 
 class Driver {
  public:
@@ -27,7 +31,8 @@ class Driver {
     static void wheel(QWidget* target);  // one turn
     // The open list of levels, or null.
     QAbstractItemView* list() const;
-    QStringList offered() const;
+    QStringList offered() const;                              // by the open list or menu
+    bool hover(const QString& level) const;                   // false: no open list offers it
     QString marked() const;                                   // the list's current entry
     bool pick(const QString& level);                          // false: no open list offers it
     void choose(const QString& label, const QString& level);  // two clicks
@@ -37,7 +42,7 @@ class Driver {
     QAction* menuEntry(const QString& entry) const;
     void clickMenu(const QString& entry);
     void closeMenu() const;
-    QString tip(const QString& label) const;
+    QString tip(const QString& label, int column = 1) const;
     QString message() const;  // the sentence below the table; empty when none is shown
     bool hasFocus() const;
 

@@ -193,6 +193,8 @@ TEST(Inspector, IsReadOutByAScreenReader) {
     EXPECT_EQ(cell(2, 1)->text(QAccessible::Name), "Full output");
     EXPECT_EQ(cell(2, 1)->text(QAccessible::Description), "Changed. Default: Default output");
     EXPECT_EQ(cell(3, 1)->text(QAccessible::Description), "Default: Default output");
+    EXPECT_EQ(cell(2, 2)->text(QAccessible::Name), "Reset to default");
+    EXPECT_EQ(cell(3, 2)->text(QAccessible::Name), "");
     const auto previous = QAccessible::installUpdateHandler([](QAccessibleEvent* event) {
         if (event->type() == QAccessible::Focus ||
             event->accessibleInterface()->role() == QAccessible::Notification)
@@ -320,6 +322,7 @@ TEST(Inspector, CutsNothingAt460Pixels) {
                 widget->setMinimumSize(1, 1);
                 Driver driver(widget.get());
                 widget->resize(460, 400);
+                widget->move(200, 0);
                 settle();
                 font.setBold(true);
                 const auto fits = [&](const QString& label, int column, const QString& text, int wrap) {
@@ -336,6 +339,14 @@ TEST(Inspector, CutsNothingAt460Pixels) {
                     fits(label, 1, row.section('=', 1), Qt::TextWordWrap);
                 }
                 EXPECT_EQ(driver.view->horizontalScrollBar()->maximum() > 0, german && points == 24);
+                driver.key(Qt::Key_Home);
+                driver.key(Qt::Key_F2);
+                const QRect cell = driver.view->visualRect(driver.view->currentIndex())
+                                       .translated(driver.view->viewport()->mapToGlobal(QPoint()));
+                const QRect list = driver.list()->window()->geometry();
+                EXPECT_EQ(german ? list.left() : list.right(), german ? cell.left() : cell.right());
+                EXPECT_GE(list.width(), driver.list()->sizeHintForColumn(0));
+                driver.key(Qt::Key_Escape);
             }
     speak(false);
     QApplication::setLayoutDirection(Qt::LeftToRight);
@@ -343,13 +354,15 @@ TEST(Inspector, CutsNothingAt460Pixels) {
 }
 
 TEST(Inspector, HasRoomForEveryTextInOneLineAtItsHint) {
-    Host host(EchoData::PLAX2, json(R"("full":99)"));
+    Host host(EchoData::PLAX2);
     Driver& driver = *host.driver;
     QFont font = QApplication::font();
     font.setBold(true);
-    for (const char* change : {"", "font", "language"}) {
+    for (const char* change : {"", "value", "font", "language"}) {
+        host.echo->insertXMLData(json(change == std::string("value") ? R"("full":1234567)" : R"("full":99)"));
         if (change == std::string("font")) font.setPointSize(14), driver.widget->setFont(font);
         speak(change == std::string("language"));
+        settle();
         host.window.resize(host.window.sizeHint());
         settle();
         const QFontMetrics metrics(font);
@@ -450,6 +463,11 @@ TEST(Inspector, DrawsTextsAndSignsInTheColoursOfTheStyle) {
         };
         expectColour("Loads", one.selected);
         expectColour("Sum of loads", one.other);
+        if (!one.style) continue;
+        host.echo.reset();
+        const QImage sign = driver.view->viewport()->grab(driver.cell("Sum of loads", 2)).toImage();
+        EXPECT_GT(distance(sign, one.other), 60) << "disabled";
+        EXPECT_LT(distance(sign, driver.view->palette().color(QPalette::Disabled, QPalette::Text)), 60);
     }
 }
 
@@ -466,6 +484,11 @@ TEST(Inspector, PaintsWhateverChanges) {
     Host host(EchoData::ESK);
     Driver& driver = *host.driver;
     QWidget& table = *driver.view->viewport();
+    const auto hasArrow = [&](const char* label) {
+        const QRect room = driver.cell(label, 1).adjusted(textWidth(driver, label, 1) + 6, 3, -3, -3);
+        const QImage image = table.grab(room).toImage();
+        return distance(image, image.mirrored()) > 30;
+    };
     QImage last;
     const auto expectPainted = [&](const char* after) {
         settle();
@@ -481,10 +504,19 @@ TEST(Inspector, PaintsWhateverChanges) {
     expectPainted("a mark");
     host.echo->insertXMLData(json(R"("load":2)"));
     expectPainted("another value");
+    driver.widget->hide();
+    host.echo->insertXMLData(json(R"("load":4)"));
+    driver.widget->show();
+    expectPainted("what changed while it was hidden");
+    host.echo->insertXMLData(json(R"("load":2)"));
+    expectPainted("the value from before");
     driver.click("Displacements", 0);
     expectPainted("a selection");
+    EXPECT_TRUE(hasArrow("Displacements"));
+    EXPECT_FALSE(hasArrow("Group parameters"));
     QTest::mouseMove(&table, driver.cell("Group parameters", 1).center());
     expectPainted("the arrow below the mouse");
+    EXPECT_TRUE(hasArrow("Group parameters"));
     driver.click("Loads", 2);
     expectPainted("a reset");
     driver.key(Qt::Key_F, Qt::ControlModifier);

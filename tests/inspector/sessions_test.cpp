@@ -4,6 +4,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QCheckBox>
 #include <QClipboard>
 #include <QLineEdit>
 #include <QRegularExpression>
@@ -60,6 +61,26 @@ bool isInView() {
     return view.viewport()->rect().contains(view.visualRect(view.currentIndex()).center());
 }
 
+QString headings() {
+    const QAbstractItemModel& model = *host->driver->view->model();
+    QStringList texts;
+    for (int column = 0; column < model.columnCount(); ++column)
+        texts << model.headerData(column, Qt::Horizontal).toString();
+    return texts.join('|');
+}
+
+QString selected() {
+    QStringList labels;
+    for (const QModelIndex& row : host->driver->view->selectionModel()->selectedRows())
+        labels << row.data().toString();
+    return labels.join('|');
+}
+
+QString filterTexts() {
+    return host->driver->widget->findChild<QLineEdit*>()->placeholderText() + '|' +
+           host->driver->widget->findChild<QCheckBox*>()->text();
+}
+
 void menu(const QString& entry) {
     host->driver->openMenu();
     host->driver->clickMenu(entry);
@@ -82,11 +103,14 @@ const Does does{
     {"click-value", [](const Words& w) { host->driver->click(w.all); }},
     {"click-label", [](const Words& w) { host->driver->click(w.all, 0); }},
     {"ctrl-click", [](const Words& w) { host->driver->click(w.all, 0, Qt::ControlModifier); }},
+    {"ctrl-click-value", [](const Words& w) { host->driver->click(w.all, 1, Qt::ControlModifier); }},
     {"click-reset", [](const Words& w) { host->driver->click(w.all, 2); }},
     {"menu", [](const Words& w) { menu(w.all); }},
     {"open-menu", [](const Words&) { host->driver->openMenu(); }},
     {"click-menu", [](const Words& w) { host->driver->clickMenu(w.all); }},
     {"pick", [](const Words& w) { EXPECT_TRUE(host->driver->pick(w.all)); }},
+    {"hover", [](const Words& w) { EXPECT_TRUE(host->driver->hover(w.all)); }},
+    {"open-list", [](const Words&) { host->driver->view->edit(host->driver->view->currentIndex()); }},
     {"press", [](const Words& w) { press(w.all); }},
     {"type", [](const Words& w) { host->driver->type(w.all); }},
     {"click-outside", [](const Words&) { clickOutside(); }},
@@ -95,7 +119,10 @@ const Does does{
     {"click-again", [](const Words& w) { clickAgain(w.all); }},
     {"hide-inspector", [](const Words&) { host->driver->widget->hide(); }},
     {"show-inspector", [](const Words&) { host->driver->widget->show(); }},
+    {"disable-inspector", [](const Words&) { host->driver->widget->setEnabled(false); }},
+    {"enable-inspector", [](const Words&) { host->driver->widget->setEnabled(true); }},
     {"shrink", [](const Words&) { host->window.resize(460, 150); }},
+    {"scroll-down", [](const Words&) { host->driver->view->scrollToBottom(); }},
     {"clipboard", [](const Words& w) { QApplication::clipboard()->setText(w.all); }},
 };
 
@@ -106,6 +133,9 @@ const Sees sees{
         [](const Words&) {
             return host->driver->rows().replaceInStrings(QRegularExpression("=.*"), "").join('|');
         }},
+    {"headings", [](const Words&) { return headings(); }},
+    {"selected", [](const Words&) { return selected(); }},
+    {"filter-texts", [](const Words&) { return filterTexts(); }},
     {"list", [](const Words&) { return host->driver->offered().join('|'); }},
     {"list-current", [](const Words&) { return host->driver->marked(); }},
     {"message", [](const Words&) { return host->driver->message(); }},
@@ -115,6 +145,13 @@ const Sees sees{
     {"in-view", [](const Words&) { return QString(isInView() ? "yes" : "no"); }},
     {"copied", [](const Words&) { return QApplication::clipboard()->text(); }},
     {"tip", [](const Words& w) { return w.label + ": " + host->driver->tip(w.label); }},
+    {"reset-tip", [](const Words& w) { return w.label + ": " + host->driver->tip(w.label, 2); }},
+    {"menu-of",
+        [](const Words& w) {
+            return w.label + " = " + menuEntry(w.label, [](const QAction& one) {
+                return one.menu() ? texts(*one.menu()) : QString();
+            });
+        }},
     {"menu-disabled",
         [](const Words& w) {
             return menuEntry(w.all, [](const QAction& one) { return one.isEnabled() ? "" : one.text(); });

@@ -8,7 +8,6 @@
 #include <QEvent>
 #include <QFontMetrics>
 #include <QHeaderView>
-#include <QKeyEvent>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
@@ -304,11 +303,6 @@ void PropertyView::focusInEvent(QFocusEvent* event) {
     QTreeView::focusInEvent(event);
     if (event->reason() == Qt::MouseFocusReason || selectionModel()->hasSelection()) return;
     selectionModel()->select(currentIndex(), QItemSelectionModel::Select | QItemSelectionModel::Rows);
-}
-
-void PropertyView::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Left || event->key() == Qt::Key_Right) return event->ignore();
-    QTreeView::keyPressEvent(event);
 }
 
 // Jumps to the next visible row whose label begins with the typed letters.

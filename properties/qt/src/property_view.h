@@ -56,7 +56,6 @@ class PropertyView : public QTreeView {
     void resetRequested(const QModelIndex& row);
 
  protected:
-    void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void keyboardSearch(const QString& text) override;
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;

@@ -5,6 +5,7 @@
 
 #include <QAccessible>
 #include <QAccessibleWidget>
+#include <QApplication>
 #include <QHeaderView>
 #include <QListWidget>
 #include <QPersistentModelIndex>
@@ -20,7 +21,8 @@ namespace {
 using Interfaces = QList<QAccessibleInterface*>;
 
 // A PropertyView or a list of values. Its rows are the visible ones. Its children are the headings, if there are
-// any, and then the cells, row by row: Qt's item views number them so in their events.
+// any, and then the cells, row by row: Qt's item views number them so in their events. An open list of values is the
+// last child of its table; Qt would leave it out.
 class AccessibleTable : public QAccessibleWidget, public QAccessibleTableInterface {
  public:
     explicit AccessibleTable(PropertyView* tree) : QAccessibleWidget(tree, QAccessible::Tree), tree_(tree) {}
@@ -33,7 +35,8 @@ class AccessibleTable : public QAccessibleWidget, public QAccessibleTableInterfa
     QAccessibleInterface* cell(const QModelIndex& index, int column) const;
 
     void* interface_cast(QAccessible::InterfaceType type) override;
-    int childCount() const override { return (headingRows() + rowCount()) * columnCount(); }
+    QAccessibleInterface* parent() const override;
+    int childCount() const override { return cellCount() + (openList() ? 1 : 0); }
     QAccessibleInterface* child(int number) const override;
     QAccessibleInterface* childAt(int x, int y) const override;
     QAccessibleInterface* focusChild() const override;
@@ -62,6 +65,8 @@ class AccessibleTable : public QAccessibleWidget, public QAccessibleTableInterfa
 
  private:
     int headingRows() const { return tree_ ? 1 : 0; }
+    int cellCount() const { return (headingRows() + rowCount()) * columnCount(); }
+    QAccessibleInterface* openList() const;
     std::vector<int> rows() const;  // of the model
     QModelIndex indexAt(int row, int column) const;
     bool select(int row, QItemSelectionModel::SelectionFlags command);
@@ -159,7 +164,19 @@ void* AccessibleTable::interface_cast(QAccessible::InterfaceType type) {
     return QAccessibleWidget::interface_cast(type);
 }
 
+QAccessibleInterface* AccessibleTable::openList() const {
+    const auto* popup = qobject_cast<NamedValueEditor*>(QApplication::activePopupWidget());
+    const bool isOurs = popup && tree_ && popup->parentWidget() == tree_->viewport();
+    return isOurs ? QAccessible::queryAccessibleInterface(popup->focusProxy()) : nullptr;
+}
+
+QAccessibleInterface* AccessibleTable::parent() const {
+    if (tree_ || !view().window()->parentWidget()) return QAccessibleWidget::parent();
+    return QAccessible::queryAccessibleInterface(view().window()->parentWidget()->parentWidget());
+}
+
 QAccessibleInterface* AccessibleTable::child(int number) const {
+    if (number == cellCount()) return openList();
     const int columns = columnCount();
     if (number < 0 || columns == 0) return nullptr;
     const int row = number / columns - headingRows();
@@ -182,6 +199,7 @@ QAccessibleInterface* AccessibleTable::focusChild() const {
 }
 
 int AccessibleTable::indexOfChild(const QAccessibleInterface* child) const {
+    if (child && child == openList()) return cellCount();
     const auto* cell = dynamic_cast<const AccessibleCell*>(child);
     if (!cell || cell->table() != this || !cell->isValid()) return -1;
     return (headingRows() + cell->rowIndex()) * columnCount() + cell->columnIndex();

@@ -407,6 +407,11 @@ TEST(Inspector, MovesItsDividerBetweenTheLeastWidthsOfBothSides) {
     QTest::mouseDClick(header, Qt::LeftButton, {}, QPoint(label(), 5));
     settle();
     EXPECT_EQ(label(), before);
+    host.window.resize(800, 350);  // every row fits in one line, until the divider moves
+    settle();
+    EXPECT_EQ(driver.view->verticalScrollBar()->maximum(), 0);
+    drag(790);
+    EXPECT_GT(driver.view->verticalScrollBar()->maximum(), 0);
 }
 
 // Makes selected rows pale while it draws, as the native style of Windows does.

@@ -229,9 +229,16 @@ void PropertyView::measureAgain() {
 // takes its width, rows may wrap, and need the bar.
 int PropertyView::roomForTexts() const {
     const QSize whole = maximumViewportSize();
-    const bool fits = labels_.line + values_.line + signWidth_ <= whole.width() &&
+    const int room = whole.width() - signWidth_;
+    const int label = wantedLabel(room);
+    const bool fits = label >= labels_.line && room - label >= values_.line &&
                       model()->rowCount() * lineHeight_ <= whole.height();
     return (fits ? whole : viewport()->size()).width() - signWidth_;
+}
+
+int PropertyView::wantedLabel(int room) const {
+    return labelShare_ ? static_cast<int>(std::lround(*labelShare_ * room))
+                       : std::min(labels_.line, room - values_.line);
 }
 
 // The labels get what they need and the values the rest. With less room labels are wrapped, then values, and
@@ -243,9 +250,7 @@ void PropertyView::fitColumns() {
     const int room = roomForTexts();
     const int most = std::max(room - values_.word, leastLabel_);
     const int least = std::min(labels_.word, most);
-    const int wanted = labelShare_ ? static_cast<int>(std::lround(*labelShare_ * room))
-                                   : std::min(labels_.line, room - values_.line);
-    const int label = std::clamp(wanted, least, most);
+    const int label = std::clamp(wantedLabel(room), least, most);
     const int value = std::max(room - label, values_.word);
     const bool wraps = label < labels_.line || value < values_.line;
     breaksWords_ = label < labels_.word;

@@ -78,6 +78,7 @@ class PropertyView : public QTreeView {
     void onSectionResized(int section, int before, int width);
     void measure() const;
     int roomForTexts() const;
+    int wantedLabel(int room) const;
     void fitColumns();
     QStyleOptionViewItem boldOption(int column) const;
     // Of a text in one line, without margins. `known` holds those already measured.

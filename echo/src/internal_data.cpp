@@ -1,6 +1,7 @@
 #include "echo/src/internal_data.h"
 
 #include "echo/src/program_classes.h"
+#include "properties/definitions/selection_manager.h"
 #include "tiv/dbo/dbo.h"
 #include "tiv/smartassert/smart_assert.h"
 

@@ -5,7 +5,6 @@
 #include "properties/container/key.h"
 #include "properties/container/model.h"
 #include "properties/definitions/property.h"
-#include "properties/definitions/selection_manager.h"
 #include "tiv/echo/echo_data.h"
 
 #include <QString>
@@ -14,6 +13,11 @@
 #include <string>
 #include <string_view>
 #include <vector>
+
+namespace tiv::properties {
+template <class Value>
+class SelectionManager;
+}
 
 namespace tiv::echo::data {
 

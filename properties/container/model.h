@@ -17,12 +17,14 @@
 #include "properties/container/object.h"
 #include "properties/container/object_handle.h"
 
-#include <boost/signals2/connection.hpp>
-
 #include <functional>
 #include <memory>
 #include <typeinfo>
 #include <vector>
+
+namespace boost::signals2 {
+class connection;  // callers of Model::onChange() include it: it is large
+}
 
 namespace tiv::container::model {
 

@@ -9,6 +9,8 @@
 
 #include "properties/container/transaction.h"
 
+#include <boost/signals2/connection.hpp>
+
 #include <algorithm>
 #include <cstdint>
 #include <map>

@@ -11,6 +11,8 @@
 
 #include <gmock/gmock.h>
 
+#include <boost/signals2/connection.hpp>
+
 namespace {
 
 using namespace test;

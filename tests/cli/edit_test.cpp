@@ -102,11 +102,11 @@ TEST(EditWindow, StaysOpenWhenItCannotSaveAndGivesTheReasonInGerman) {
         {{"--project", project, "--task", "static"}, project + ": Datei nicht vorhanden"},
         {{"esk", "--settings", settings}, settings + ": Ordner nicht vorhanden"},
     };
-    for (const auto& [words, error] : rows)
-        edit(words, [&](test::Driver window) {
+    for (const auto& row : rows)
+        edit(row.first, [&](test::Driver window) {
             QFile::remove(project);
             window.choose("Lasten", "Vollständige Ausgabe");
-            EXPECT_EQ(asked(Button::Ok, [&] { leave(window, Button::Ok); }), error.toStdString());
+            EXPECT_EQ(asked(Button::Ok, [&] { leave(window, Button::Ok); }), row.second.toStdString());
             EXPECT_TRUE(window.widget->isVisible());
             EXPECT_EQ(window.row("Lasten"), "Vollständige Ausgabe*");
             asked(Button::Discard, [&] { leave(window, Button::Cancel); });

@@ -2,6 +2,7 @@
 
 #include "apps/echohost/dialogs.h"
 #include "apps/echohost/programs.h"
+#include "apps/texts/output.h"
 #include "apps/texts/reasons.h"
 #include "ui_main_window.h"
 
@@ -16,14 +17,12 @@
 #include <QHeaderView>
 #include <QMimeData>
 #include <QPushButton>
-#include <QSaveFile>
 #include <QScreen>
 #include <QSettings>
 #include <QSignalBlocker>
 #include <QUrl>
 
 #include <algorithm>
-#include <stdexcept>
 
 namespace echohost {
 namespace {
@@ -49,14 +48,6 @@ QString projectFile(const QString& chosen) {
 QString droppedFile(const QMimeData* data) {
     const auto urls = data->urls();
     return urls.size() == 1 ? urls.front().toLocalFile() : QString();
-}
-
-void writeFile(const QString& file, const QByteArray& content) {
-    QSaveFile output(file);
-    // Asked of flush(): commit() of Qt 5 does not report that the disk is full.
-    const bool isWritten = output.open(QIODevice::WriteOnly) && output.write(content) == content.size() &&
-                           output.flush() && output.commit();
-    if (!isWritten) throw std::runtime_error((file + ": " + output.errorString()).toStdString());
 }
 
 }  // namespace
@@ -321,7 +312,7 @@ void MainWindow::dropEvent(QDropEvent* event) {
 
 void MainWindow::exportLines() {
     const QString file = QFileDialog::getSaveFileName(this, tr("Export ECHO lines"));
-    if (!file.isEmpty()) writeFile(file, lines().toUtf8());
+    if (!file.isEmpty()) tiv::apps::replaceFile(file, lines().toUtf8());
 }
 
 // ---- its tasks ----

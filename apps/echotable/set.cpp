@@ -27,7 +27,6 @@ void run(const QCommandLineParser& arguments) {
     }
     if (arguments.isSet(projectOption())) throw UsageError(QStringLiteral("--project needs --task"));
     const auto table = makeTable(words.constFirst(), projectWith(QStringLiteral("all")));
-    requireOptions(*table);
     if (arguments.isSet(settingsOption())) readSettings(*table, arguments.value(settingsOption()));
     setLevels(*table, words.mid(1));
     writeOutput(arguments, table->getXMLData());

@@ -1,9 +1,10 @@
 #include "apps/echotable/text.h"
 
+#include "apps/texts/output.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QVector>
 
 #include <algorithm>
@@ -87,12 +88,7 @@ void writeText(const QString& name, const QString& text) {
     const QFileInfo target(linkedFile(name));
     if (target.exists() && !target.isFile()) throw failure(name, QStringLiteral("not a file"));
     if (!target.dir().exists()) throw failure(name, QStringLiteral("no such folder"));
-    const QByteArray bytes = text.toUtf8();
-    QSaveFile file(target.filePath());
-    // QSaveFile::commit() of Qt 5.15 ignores a flush that fails, and replaces the file by a shorter one.
-    const bool written =
-        file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush() && file.commit();
-    if (!written) throw failure(name, file.errorString());
+    apps::replaceFile(target.filePath(), text.toUtf8());
 }
 
 void print(const QString& text) {

@@ -49,6 +49,8 @@ std::string asked(Button answer, const std::function<void()>& action) {
         auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
         if (!box) return;
         text = box->text();
+        EXPECT_EQ(box->textFormat(), Qt::PlainText);
+        EXPECT_EQ(box->defaultButton(), box->button(Button::Cancel));  // null for an error
         box->button(answer)->click();
     });
     action();
@@ -58,9 +60,9 @@ std::string asked(Button answer, const std::function<void()>& action) {
 
 TEST(EditWindow, LosesNoEditWithoutAQuestion) {
     const QTemporaryDir folder;
-    QFile file(folder.filePath("static.txt"));
+    QFile file(folder.filePath("[*].txt"));
     QLocale::setDefault(QLocale::French);  // tests/data/french has a few texts
-    const std::string question = "static.txt a été modifié.";
+    const std::string question = "[*].txt a été modifié.";
     const struct {
         const char *before, *chosen;
         Button left;
@@ -77,7 +79,7 @@ TEST(EditWindow, LosesNoEditWithoutAQuestion) {
     };
     for (const auto& step : steps) {
         edit({"esk", "--settings", file.fileName()}, [&](test::Driver window) {
-            EXPECT_EQ(window.widget->windowTitle(), "static.txt[*] - esk");
+            EXPECT_EQ(window.widget->windowTitle(), "[*][*].txt[*] - esk");
             EXPECT_EQ(window.row("Charges"), step.before);
             window.choose("Charges", step.chosen);
             EXPECT_EQ(window.widget->isWindowModified(), QString(step.before).remove('*') != step.chosen);

@@ -57,8 +57,10 @@ class Catalogue : public QTranslator {
     // Null for English, the language of the source texts, and if no language has a catalogue.
     std::unique_ptr<QTranslator> catalogueOf(const QStringList& languages) const {
         const QString folder = libraryFolder();
-        const QString folders[] = {
-            folder, folder + QStringLiteral("/" TIV_CATALOGUES), QStringLiteral(":/tiv/translations")};
+        const QString folders[] = {folder,
+            folder + QStringLiteral("/" TIV_CATALOGUES_FROM_LIBRARIES),
+            folder + QStringLiteral("/" TIV_CATALOGUES_FROM_PROGRAMS),
+            QStringLiteral(":/tiv/translations")};
         auto translator = std::make_unique<QTranslator>();
         for (const QString& name : languages) {
             const QLocale language(name);

@@ -3,11 +3,11 @@
 //     const tiv::qt::TIV_QT_InitTranslator translator("tiv_echotable_dll");   // static, at namespace scope
 //
 // The catalogue is "<name>_<language>.qm" for the first of QLocale().uiLanguages() that has one or is English, which
-// needs none. It is looked for in the library's folder, in the folder of the installed catalogues (relative to the
-// library's folder), and in the resource ":/tiv/translations". It is installed as soon as there is an application
-// object. A library loaded after the application object was made serves that object only. The catalogue is
-// replaced when the languages change: after QLocale::setDefault a host installs a translator, or sends the
-// application a QEvent::LocaleChange.
+// needs none. It is looked for in the folder of the library, or of the program that contains it, in the folder of
+// the installed catalogues (relative to the former), and in the resource ":/tiv/translations". It is installed as
+// soon as there is an application object. A library loaded after the application object was made serves that object
+// only. The catalogue is replaced when the languages change: after QLocale::setDefault a host installs a translator,
+// or sends the application a QEvent::LocaleChange.
 #pragma once
 
 #include <QObject>

@@ -1,7 +1,6 @@
 // Every program's table against its independent statement in data/programs.tsv.
 #include "echo/expected_options.h"
 #include "echo/src/internal_data.h"
-#include "echo/src/levels.h"
 #include "echo/src/program_classes.h"
 #include "support/printing.h"
 #include "support/reports.h"
@@ -69,15 +68,6 @@ TEST(EveryProgram, WritesTheLinesOfItsTableForAllLevelsElementsAndLanguages) {
                 expectLines(loaded, options, levels, project);
             }
         }
-    }
-}
-
-TEST(EveryOption, OffersItsLevelsAlsoWhereNoInspectorShowsIt) {
-    for (const ExpectedOption& o : expectedOptions()) {
-        QString offered;
-        for (const OutPutType level : offeredLevels("prop." + o.field.toStdString()))
-            offered += QString::number(level);
-        EXPECT_EQ(offered, o.offered) << o.field.toStdString();
     }
 }
 

@@ -74,8 +74,8 @@ for name, code in files.items():
         (scratch / name).write_text(code)
 
 follow(readme)
-run("programs", "cmake -G Ninja -S . -B build/programs -D CMAKE_PREFIX_PATH=$PWD/build/installed"
-                " -D CMAKE_RUNTIME_OUTPUT_DIRECTORY=$PWD -D CMAKE_COMPILE_WARNING_AS_ERROR=ON"
+run("programs", "cmake -G Ninja -S . -B build/programs -D CMAKE_PREFIX_PATH=\"$PWD/build/installed\""
+                " -D CMAKE_RUNTIME_OUTPUT_DIRECTORY=\"$PWD\" -D CMAKE_COMPILE_WARNING_AS_ERROR=ON"
                 " && cmake --build build/programs")
 follow(guides)
 if f"\n## [{version}]" not in (source / "CHANGELOG.md").read_text():

@@ -31,7 +31,12 @@ way_pkgconfig() {
     runs ./consumer
 }
 
+# qmake takes no blanks from pkg-config: the package is reached by a path without any.
 way_qmake() {
+    link=$(mktemp -d)
+    trap 'rm -r "$link"' EXIT
+    ln -s "$prefix" "$link/installed"
+    export PKG_CONFIG_PATH=$link/installed${PKG_CONFIG_PATH#"$prefix"}
     QT_SELECT=$qt qmake"${suffix:+6}" "LIBRARY=tiv_echotable$suffix" "QMAKE_CXX=$CXX" "QMAKE_LINK=$CXX" \
         "QMAKE_CXXFLAGS+=${CXXFLAGS-}" "QMAKE_LFLAGS+=${CXXFLAGS-}" "$here/consumer/consumer.pro"
     make -s

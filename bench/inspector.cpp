@@ -16,7 +16,7 @@ namespace {
 using Widget = std::unique_ptr<QWidget>;
 
 struct Table {
-    Table() : echo(plax2, project()) { speak("C"); }
+    Table() : echo(plax2, project()) { setLanguage("C"); }
     QWidget* create() { return widgets.emplace_back(echo.createPropertyInspector(nullptr)).get(); }
     QWidget* show() {
         QWidget* widget = create();

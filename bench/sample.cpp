@@ -36,7 +36,7 @@ QString bench::settingsString(EchoData::ProgrammTypes type, const QString& json)
     return echo.getXMLData();
 }
 
-void bench::speak(const char* language) {
+void bench::setLanguage(const char* language) {
     QLocale::setDefault(QLocale(language));
     QEvent change(QEvent::LocaleChange);
     QCoreApplication::sendEvent(QCoreApplication::instance(), &change);

@@ -29,6 +29,6 @@ constexpr const char* allOtherwise =
 QString settingsString(EchoData::ProgrammTypes type, const QString& json);
 
 // Changes the language of the application: "C" or "de".
-void speak(const char* language);
+void setLanguage(const char* language);
 
 }  // namespace bench

@@ -27,7 +27,7 @@ auto inserts(const QString& text) {
 auto writes(const char* settings, bool defaultsOnly, const char* language) {
     const auto lines = on(settings, [=](EchoData& echo) { echo.getTELINP(defaultsOnly, false, 1); });
     return [=](int runs) {
-        speak(language);
+        setLanguage(language);
         return lines(runs);
     };
 }

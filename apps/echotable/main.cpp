@@ -52,7 +52,7 @@ QString helpOf(const Verb& verb, QCommandLineParser& parser) {
     parser.setApplicationDescription(verb.summary);
     for (const QString& argument : verb.arguments) parser.addPositionalArgument(argument, meaning(argument));
     const QStringList words = QStringList(verb.name) + verb.arguments;
-    const QString text = parser.helpText();  // its first line knows no verb
+    const QString text = parser.helpText();  // its first line lacks the verb
     return QStringLiteral("Usage: echotable %1 [options]").arg(words.join(QLatin1Char(' '))) +
            text.mid(text.indexOf(QLatin1Char('\n')));
 }

@@ -96,7 +96,7 @@ struct BothModels {
         }
     }
 
-    // Follows the reports as a view does; each says what was not known before.
+    // Applies the reports as a view does. Each must change something.
     void report(const model::Changes& changes) {
         fuse = 0;
         for (const auto& key : changes.created)

@@ -85,11 +85,11 @@ bool FilterBar::onKey(const QKeyEvent& event, bool onlyAsk) {
 
 // Return and Escape in the bar are not the host's, nor is the Space that checks the box.
 bool FilterBar::eventFilter(QObject* watched, QEvent* event) {
-    const bool asks = event->type() == QEvent::ShortcutOverride;
-    if (!asks && event->type() != QEvent::KeyPress) return false;
+    const bool isOverride = event->type() == QEvent::ShortcutOverride;
+    if (!isOverride && event->type() != QEvent::KeyPress) return false;
     const auto* key = static_cast<QKeyEvent*>(event);
-    const bool checks = asks && watched == changedOnly_ && key->key() == Qt::Key_Space;
-    if (!checks && !onKey(*key, asks)) return false;
+    const bool isCheck = isOverride && watched == changedOnly_ && key->key() == Qt::Key_Space;
+    if (!isCheck && !onKey(*key, isOverride)) return false;
     event->accept();
     return true;
 }

@@ -137,10 +137,10 @@ void QtInspectorWidget::onResetRequested(const QModelIndex& index) {
 }
 
 bool QtInspectorWidget::eventFilter(QObject* /*watched*/, QEvent* event) {
-    const bool asks = event->type() == QEvent::ShortcutOverride;
-    if (!asks && event->type() != QEvent::KeyPress) return false;
+    const bool isOverride = event->type() == QEvent::ShortcutOverride;
+    if (!isOverride && event->type() != QEvent::KeyPress) return false;
     const auto* key = static_cast<QKeyEvent*>(event);
-    if (!(asks ? isClaimed(commands_, *key) : runCommand(commands_, *key))) return false;
+    if (!(isOverride ? isClaimed(commands_, *key) : runCommand(commands_, *key))) return false;
     event->accept();
     return true;
 }

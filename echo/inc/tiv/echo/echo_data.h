@@ -121,7 +121,7 @@ class TIV_ECHOTABLE_EXPORT EchoData : public QObject {
     /// \throws bond::StreamException, bond::CoreException (bond/exceptions.h, with their texts) when the
     ///     text cannot be read, and std::runtime_error "Transaction in progress. Hierarchical transactions
     ///     not supported (yet). Should we?" (one line) while the settings are being changed. The settings
-    ///     are then as they were, and no inspector was told.
+    ///     are then as they were, and no inspector is notified.
     void insertXMLData(const QString& text);
 
  private:

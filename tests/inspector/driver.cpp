@@ -22,7 +22,7 @@ Driver::Driver(QWidget* inspector) : widget(inspector), view(inspector->findChil
     widget->resize(640, 480);
     widget->show();
     QApplication::setActiveWindow(widget->window());
-    view->setFocus();
+    widget->setFocus();
     settle();
 }
 
@@ -91,30 +91,32 @@ QStringList Driver::offered() const {
     return result;
 }
 
-bool Driver::hover(const QString& level) const {
-    auto* open = list();
-    const int entry = static_cast<int>(offered().indexOf(level));
-    if (!open || entry < 0) return false;
-    const QPoint at = open->visualRect(open->model()->index(entry, 0)).center();
-    QTest::mouseMove(open->viewport(), at - QPoint(1, 0));
-    QTest::mouseMove(open->viewport(), at);
-    settle();
-    return true;
-}
-
 QString Driver::marked() const {
     const auto* open = list();
     if (!open || open->selectionModel()->selectedIndexes().isEmpty()) return {};
     return open->selectionModel()->selectedIndexes().front().data().toString();
 }
 
-bool Driver::pick(const QString& level) {
-    auto* open = list();
-    const int entry = static_cast<int>(offered().indexOf(level));
-    if (!open || entry < 0) return false;
-    QTest::mouseClick(
-        open->viewport(), Qt::LeftButton, {}, open->visualRect(open->model()->index(entry, 0)).center());
+// Of the open list's entry; null: it has none.
+static QPoint centreOf(const Driver& driver, const QString& level) {
+    const auto* open = driver.list();
+    const int entry = static_cast<int>(driver.offered().indexOf(level));
+    return open && entry >= 0 ? open->visualRect(open->model()->index(entry, 0)).center() : QPoint();
+}
+
+bool Driver::hover(const QString& level) const {
+    const QPoint at = centreOf(*this, level);
+    if (at.isNull()) return false;
+    QTest::mouseMove(list()->viewport(), at - QPoint(1, 0));
+    QTest::mouseMove(list()->viewport(), at);
+    settle();
     return true;
+}
+
+bool Driver::pick(const QString& level) {
+    const QPoint at = centreOf(*this, level);
+    if (!at.isNull()) QTest::mouseClick(list()->viewport(), Qt::LeftButton, {}, at);
+    return !at.isNull();
 }
 
 void Driver::choose(const QString& label, const QString& level) {

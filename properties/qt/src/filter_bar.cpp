@@ -57,8 +57,7 @@ void FilterBar::placeBefore(QWidget* next) {
 
 void FilterBar::open() {
     show();
-    query_->setFocus(Qt::ShortcutFocusReason);
-    query_->selectAll();
+    query_->setFocus(Qt::ShortcutFocusReason);  // which selects its text
 }
 
 void FilterBar::close() {

@@ -380,12 +380,12 @@ TEST(Inspector, HasRoomForEveryTextInOneLineAtItsHint) {
     Driver& driver = *host.driver;
     QFont font = QApplication::font();
     font.setBold(true);
-    for (const std::string change : {"", "value", "font", "language", "style"}) {
+    for (const std::string change : {"", "value", "font", "style", "language"}) {
         host.echo->insertXMLData(json(change == "value" ? R"("full":1234567)" : R"("full":99)"));
         if (change == "font") font.setPointSize(14), driver.widget->setFont(font);
-        speak(change == "language");
-        const int padding = change == "style" ? 30 : 0;
-        if (padding) driver.view->setStyleSheet("QTreeView::item{padding-left:30px}");
+        if (change == "language") speak(true);
+        if (change == "style") driver.view->setStyleSheet("QTreeView::item{padding-left:30px}");
+        const int padding = driver.view->styleSheet().isEmpty() ? 0 : 30;
         settle();
         host.window.resize(host.window.sizeHint());
         settle();
@@ -404,6 +404,7 @@ TEST(Inspector, HasRoomForEveryTextInOneLineAtItsHint) {
         }
         EXPECT_EQ(driver.view->verticalScrollBar()->maximum(), 0);
     }
+    speak(false);
 }
 
 TEST(Inspector, MovesItsDividerBetweenTheLeastWidthsOfBothSides) {
@@ -534,11 +535,6 @@ TEST(Inspector, PaintsWhateverChanges) {
     EXPECT_TRUE(hasArrow("Group parameters"));
     driver.click("Loads", 2);
     expectPainted("a reset");
-    driver.view->header()->resizeSection(0, 300);
-    expectPainted("another width");
-    speak(true);
-    expectPainted("another language, with columns as before");
-    speak(false);
     driver.key(Qt::Key_F, Qt::ControlModifier);
     driver.type("zzz");
     expectPainted("the filter");

@@ -29,9 +29,12 @@ bool isEnglish(const QLocale& locale) {
     return locale.language() == QLocale::English || locale.language() == QLocale::C;
 }
 
-bool load(QTranslator& translator, const QLocale& locale, const char* catalogue, const QString& folder) {
-    return translator.load(locale, QString::fromLatin1(catalogue), QString(), folder) &&
-           QCoreApplication::installTranslator(&translator);
+// Installs the catalogue of the first folder that has it.
+void install(
+    QTranslator& translator, const QLocale& locale, const char* catalogue, const QStringList& folders) {
+    for (const QString& folder : folders)
+        if (translator.load(locale, QString::fromLatin1(catalogue), QString(), folder))
+            return void(QCoreApplication::installTranslator(&translator));
 }
 
 }  // namespace
@@ -70,9 +73,9 @@ void Languages::choose(const QLocale& locale) {
     for (QTranslator* translator : {&texts_, &qtTexts_}) QCoreApplication::removeTranslator(translator);
     const QLocale language = current();
     if (!isEnglish(language)) {
-        load(qtTexts_, language, "qtbase_", QLibraryInfo::location(QLibraryInfo::TranslationsPath));
-        for (const QString& folder : folders())
-            if (load(texts_, language, ownCatalogue, folder)) break;
+        const QString ofQt = QLibraryInfo::location(QLibraryInfo::TranslationsPath);
+        install(qtTexts_, language, "qtbase_", QStringList(ofQt) + folders());
+        install(texts_, language, ownCatalogue, folders());
     }
     QEvent change(QEvent::LocaleChange);  // for the library: there may be no catalogue of the window's own
     QCoreApplication::sendEvent(QCoreApplication::instance(), &change);

@@ -7,6 +7,9 @@ install(FILES $<TARGET_FILE:Qt${TIV_QT}::QWindowsIntegrationPlugin> DESTINATION 
 install(FILES $<TARGET_FILE:Qt${TIV_QT}::QWindowsVistaStylePlugin> DESTINATION ${CMAKE_INSTALL_BINDIR}/styles)
 
 if(MINGW)
+    set(german /usr/share/qt5/translations/qtbase_de.qm)  # the texts of Qt itself
+    file(COPY ${german} DESTINATION ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
+    install(FILES ${german} TYPE BIN)
     set(dependencies ${CMAKE_FIND_ROOT_PATH})
     foreach(library libgcc_s_seh-1 libstdc++-6 libwinpthread-1)
         install(FILES ${dependencies}/bin/${library}.dll TYPE BIN)

@@ -90,7 +90,7 @@ class Host : public testing::Test {
     QString file(const QString& name) const { return folder.filePath(name); }
     // As a menu shows it; of a file, its name.
     QString textOf(const QAction* action) const {
-        return action->text().remove('&').remove(folder.path() + '/');
+        return action->text().remove('&').remove(QDir::toNativeSeparators(folder.path() + '/'));
     }
     void trigger(const QString& text) const {
         emit window->findChild<QMenu*>("recentMenu")->aboutToShow();

@@ -328,8 +328,7 @@ TEST(Inspector, CutsNothingAt460Pixels) {
                 const bool german = direction == Qt::LeftToRight;  // it has the longer words
                 SCOPED_TRACE(points * (german ? 1 : -1));
                 speak(german);
-                QFont font = before;
-                font.setPointSize(points);
+                QFont font("DejaVu Sans", points);
                 QApplication::setFont(font);
                 QApplication::setLayoutDirection(direction);
                 EchoData echo(type, everyElement());

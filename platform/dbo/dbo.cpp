@@ -58,7 +58,8 @@ Project* find(int database) {
 }
 
 [[noreturn]] void refuse(const std::string& path, const std::string& reason) {
-    throw std::runtime_error(path + ": " + reason);
+    const std::string name = path.substr(0, path.find('\0'));  // what() would end there
+    throw std::runtime_error(name + ": " + reason);
 }
 
 // Throws SQLite's error message unless `result` is SQLITE_OK. The messages on damage quote damaged bytes.
@@ -107,7 +108,7 @@ int numberOf(const Project& project, const char* pragma) {
     return step(project, statement) ? sqlite3_column_int(statement.get(), 0) : 0;
 }
 
-// File system, SQLite and exceptions cut texts off at NUL.
+// File system and SQLite cut names off at NUL.
 bool hasNul(const std::string& path) {
     return path.find('\0') != std::string::npos;
 }
@@ -317,7 +318,7 @@ int createProject(const std::string& path, const ElementCounts& counts) {
             throw std::invalid_argument("Elements: expected 0 or more, got " + std::to_string(count) + ".");
     }
     // An empty name would open a temporary database.
-    if (fileOf(path).filename().empty() || hasNul(path)) refuse(path.c_str(), "no file name");
+    if (fileOf(path).filename().empty() || hasNul(path)) refuse(path, "no file name");
     std::error_code ignored;
     const auto status = std::filesystem::status(fileOf(path), ignored);
     const bool isNew = path == temporary || !std::filesystem::exists(status);
@@ -334,7 +335,7 @@ int createProject(const std::string& path, const ElementCounts& counts) {
 }
 
 int openProject(const std::string& path) {
-    if (hasNul(path)) refuse(path.c_str(), "no such file");
+    if (hasNul(path)) refuse(path, "no such file");
     std::error_code error;
     const auto status = std::filesystem::status(fileOf(path), error);
     if (!std::filesystem::status_known(status)) refuse(path, error.message());

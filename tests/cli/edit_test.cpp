@@ -60,9 +60,11 @@ std::string asked(Button answer, const std::function<void()>& action) {
 
 TEST(EditWindow, LosesNoEditWithoutAQuestion) {
     const QTemporaryDir folder;
-    QFile file(folder.filePath("[*].txt"));
+    const QString name =
+        QSysInfo::productType() == "windows" ? "x.txt" : "[*].txt";  // no "*" is allowed there
+    QFile file(folder.filePath(name));
     QLocale::setDefault(QLocale::French);  // tests/data/french has a few texts
-    const std::string question = "[*].txt a été modifié.";
+    const std::string question = name.toStdString() + " a été modifié.";
     const struct {
         const char *before, *chosen;
         Button left;
@@ -79,7 +81,7 @@ TEST(EditWindow, LosesNoEditWithoutAQuestion) {
     };
     for (const auto& step : steps) {
         edit({"esk", "--settings", file.fileName()}, [&](test::Driver window) {
-            EXPECT_EQ(window.widget->windowTitle(), "[*][*].txt[*] - esk");
+            EXPECT_EQ(window.widget->windowTitle(), QString(name).replace("[*]", "[*][*]") + "[*] - esk");
             EXPECT_EQ(window.row("Charges"), step.before);
             window.choose("Charges", step.chosen);
             EXPECT_EQ(window.widget->isWindowModified(), QString(step.before).remove('*') != step.chosen);

@@ -258,7 +258,11 @@ TEST_F(Host, KeepsToItsSessions) {
         {"file", [&](const Words& w) { return w.label + ": " + content(w.label); }},
         {"elements", [&](const Words& w) { return w.label + ": " + stored(file(w.label)); }},
     };
-    for (const Session& session : readSessions(TIV_SESSIONS)) play(session, does, sees);
+    for (Session session : readSessions(TIV_SESSIONS)) {
+        if (QSysInfo::productType() == "windows")  // where no name has an asterisk
+            session.lines.replaceInStrings("[*][*]1", "1").replaceInStrings("[*]1", "1");
+        play(session, does, sees);
+    }
     expect({});
     window.reset();  // reports go again where they went before
     const tiv::echo::EchoData unknown(static_cast<tiv::echo::EchoData::ProgrammTypes>(1000), 0);

@@ -332,7 +332,7 @@ TEST(Inspector, CutsNothingAt460Pixels) {
                 QApplication::setFont(font);
                 QApplication::setLayoutDirection(direction);
                 EchoData echo(type, everyElement());
-                const auto options = expectedOptions(type);
+                const auto options = expectedOptions(static_cast<int>(type));
                 echo.insertXMLData(jsonSettings(options, std::vector<int>(options.size(), 2)));
                 const std::unique_ptr<QWidget> widget(echo.createPropertyInspector(nullptr));
                 widget->setMinimumSize(1, 1);

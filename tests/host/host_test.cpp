@@ -259,8 +259,9 @@ TEST_F(Host, KeepsToItsSessions) {
         {"elements", [&](const Words& w) { return w.label + ": " + stored(file(w.label)); }},
     };
     for (Session session : readSessions(TIV_SESSIONS)) {
-        if (QSysInfo::productType() == "windows")  // where no name has an asterisk
-            session.lines.replaceInStrings("[*][*]1", "1").replaceInStrings("[*]1", "1");
+        const bool isWindows = QSysInfo::productType() == "windows";  // where no name has an asterisk
+        if (isWindows) session.lines.replaceInStrings("[*][*]1", "1").replaceInStrings("[*]1", "1");
+        if (isWindows && session.title.endsWith("(not on Windows)")) continue;
         play(session, does, sees);
     }
     expect({});

@@ -92,7 +92,7 @@ TEST(EditWindow, LosesNoEditWithoutAQuestion) {
         EXPECT_EQ(file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray(), step.saved);
         file.close();
     }
-    test::speak(false);
+    test::setGerman(false);
 }
 
 TEST(EditWindow, StaysOpenWhenItCannotSaveAndGivesTheReasonInGerman) {
@@ -101,7 +101,7 @@ TEST(EditWindow, StaysOpenWhenItCannotSaveAndGivesTheReasonInGerman) {
     const int database = tiv::dbo::createProject(project.toStdString());
     tiv::dbo::storeTask(database, {"static", 3, "CgAA\n"});
     tiv::dbo::closeProject(database);
-    test::speak(true);
+    test::setGerman(true);
     const std::pair<QStringList, QString> rows[] = {
         {{"--project", project, "--task", "static"}, project + ": Datei nicht vorhanden"},
         {{"esk", "--settings", settings}, settings + ": Ordner nicht vorhanden"},
@@ -115,7 +115,7 @@ TEST(EditWindow, StaysOpenWhenItCannotSaveAndGivesTheReasonInGerman) {
             EXPECT_EQ(window.row("Lasten"), "Vollständige Ausgabe*");
             asked(Button::Discard, [&] { leave(window, Button::Cancel); });
         });
-    test::speak(false);
+    test::setGerman(false);
 }
 
 TEST(EditWindow, AsksInGermanBeforeItSavesOverAnotherProgramsChange) {
@@ -126,7 +126,7 @@ TEST(EditWindow, AsksInGermanBeforeItSavesOverAnotherProgramsChange) {
     tiv::dbo::storeTask(project, {"static", 3, "CgAA\n"});
     const QFont font = QApplication::font();
     QApplication::setFont(QFont(font.family(), 24));
-    test::speak(true);
+    test::setGerman(true);
     edit({"--project", file, "--task", "static"}, [&](test::Driver window) {
         EXPECT_EQ(window.widget->windowTitle(), "P: static[*] - esk");
         const auto* cancel = window.widget->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Cancel);
@@ -140,7 +140,7 @@ TEST(EditWindow, AsksInGermanBeforeItSavesOverAnotherProgramsChange) {
             EXPECT_EQ(window.widget->isVisible(), answer == Button::Cancel);
         }
     });
-    test::speak(false);
+    test::setGerman(false);
     QApplication::setFont(font);
     EXPECT_EQ(settings(), "ClAGAAA=\n");
     tiv::dbo::closeProject(project);

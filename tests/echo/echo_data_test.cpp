@@ -57,11 +57,11 @@ TEST(EchoData, TranslatesEveryLabelCommentAndLevel) {
     QStringList sources{"Default output", "No output", "Normal output", "Full output", "Extensive output",
         "no output of text lists", "extensive output of text lists"};
     for (const ExpectedOption& o : expectedOptions()) sources << o.label << o.comment;
-    speak(true);
+    setGerman(true);
     for (const QString& source : sources)
         EXPECT_NE(EchoData::tr(source.toUtf8().constData()), source) << source.toStdString();
     EXPECT_EQ(EchoData::tr("no such text"), "no such text");
-    speak(false);
+    setGerman(false);
     EXPECT_EQ(EchoData::tr("Loads"), "Loads");
 }
 

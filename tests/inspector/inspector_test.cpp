@@ -69,7 +69,7 @@ bool isDrawn(QWidget* table, const QRect& room) {
 }
 
 TEST(Inspector, ShowsTheApplicableOptionsInOrderWithExactlyTheirLevels) {
-    for (const unsigned kinds : {0U, 1U, 2U, 4U, 8U, 16U, everyKind}) {
+    for (const unsigned kinds : {0U, everyKind}) {
         const Project project(kinds);
         for (const int type : {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13}) {
             SCOPED_TRACE(type);
@@ -78,12 +78,12 @@ TEST(Inspector, ShowsTheApplicableOptionsInOrderWithExactlyTheirLevels) {
             Driver driver(widget.get());
             const QRect screen = widget->screen()->availableGeometry();
             widget->setFont(QFont("DejaVu Serif", 8));
-            widget->setLayoutDirection(kinds == everyKind ? Qt::RightToLeft : Qt::LeftToRight);
+            widget->setLayoutDirection(type % 2 ? Qt::RightToLeft : Qt::LeftToRight);
             QStringList labels;
             for (const ExpectedOption& o : expectedOptions(type)) {
                 if (o.shown == "-" || !project.has(o.needs)) continue;
                 labels << o.label;
-                if (kinds != 0 && kinds != everyKind) continue;
+                if (kinds == 0) continue;
                 const QStringList texts{"Default output", "No output", "Normal output", "Full output",
                     "Extensive output", "4", "5", "6", "7"};
                 QStringList offered;
@@ -327,7 +327,7 @@ TEST(Inspector, CutsNothingAt460Pixels) {
             for (const auto type : {EchoData::QSX_ELPL, EchoData::ESK, EchoData::MEXORA, EchoData::PLAX2}) {
                 const bool german = direction == Qt::LeftToRight;  // it has the longer words
                 SCOPED_TRACE(points * (german ? 1 : -1));
-                speak(german);
+                setGerman(german);
                 QFont font("DejaVu Sans", points);
                 QApplication::setFont(font);
                 QApplication::setLayoutDirection(direction);
@@ -369,7 +369,7 @@ TEST(Inspector, CutsNothingAt460Pixels) {
                 EXPECT_GE(driver.list()->viewport()->width(), driver.list()->sizeHintForColumn(0));
                 driver.key(Qt::Key_Escape);
             }
-    speak(false);
+    setGerman(false);
     QApplication::setLayoutDirection(Qt::LeftToRight);
     QApplication::setFont(before);
 }
@@ -382,28 +382,28 @@ TEST(Inspector, HasRoomForEveryTextInOneLineAtItsHint) {
     for (const std::string change : {"", "value", "font", "style", "language"}) {
         host.echo->insertXMLData(json(change == "value" ? R"("full":1234567)" : R"("full":99)"));
         if (change == "font") font.setPointSize(14), driver.widget->setFont(font);
-        if (change == "language") speak(true);
+        if (change == "language") setGerman(true);
         if (change == "style") driver.view->setStyleSheet("QTreeView::item{padding-left:30px}");
         const int padding = driver.view->styleSheet().isEmpty() ? 0 : 30;
         settle();
         host.window.resize(host.window.sizeHint());
         settle();
         const QFontMetrics metrics(font);
+        driver.key(Qt::Key_F2);
+        const QStringList offered = driver.offered();  // in every row
+        driver.key(Qt::Key_Escape);
         for (const QString& row : driver.rows()) {
             const QString label = row.section('=', 0, 0);
             EXPECT_GE(textWidth(driver, label, 0) - padding, metrics.horizontalAdvance(label))
                 << label.toStdString();
             EXPECT_LT(driver.cell(label, 1).height(), 2 * metrics.height());
-            driver.click(label);
-            const QStringList texts = driver.offered() << row.section('=', 1).remove('*');
-            for (const QString& text : texts)
+            for (const QString& text : offered + QStringList(row.section('=', 1).remove('*')))
                 EXPECT_GE(textWidth(driver, label, 1) - padding, metrics.horizontalAdvance(text))
                     << text.toStdString();
-            driver.key(Qt::Key_Escape);
         }
         EXPECT_EQ(driver.view->verticalScrollBar()->maximum(), 0);
     }
-    speak(false);
+    setGerman(false);
 }
 
 TEST(Inspector, MovesItsDividerBetweenTheLeastWidthsOfBothSides) {

@@ -185,6 +185,8 @@ TEST_F(Project, isNotWrittenToAfterItsFileWasMovedOrReplaced) {
 #endif
 
 TEST_F(Project, waitsForAnotherProgramAsLongAsSet) {
+    setBusyTimeout(std::chrono::milliseconds(50));
+    closeProject(std::exchange(database, openProject(path)));
     const auto start = std::chrono::steady_clock::now();
     const auto writer = execute(path, "BEGIN EXCLUSIVE; UPDATE elements SET count = 8 WHERE kind = 0");
     const auto creator = execute(file("raced"), "BEGIN IMMEDIATE; CREATE TABLE elements(kind)");
@@ -192,12 +194,11 @@ TEST_F(Project, waitsForAnotherProgramAsLongAsSet) {
     EXPECT_EQ(failureOf([&] { openProject(path); }), locked);
     EXPECT_EQ(failureOf([&] { hasQuads(database, nullptr); }), locked);
     EXPECT_EQ(failureOf([&] { changeTasks(database, {}); }), locked);
-    EXPECT_GE(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(1200))
-        << "half a second each";
+    EXPECT_GE(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(140)) << "50 ms each";
     setBusyTimeout(std::chrono::seconds(20));
     std::thread commits([&] {
         for (const auto& connection : {writer, creator}) {
-            std::this_thread::sleep_for(std::chrono::milliseconds(700));
+            std::this_thread::sleep_for(std::chrono::milliseconds(200));
             sqlite3_exec(connection.get(), "COMMIT", nullptr, nullptr, nullptr);
         }
     });

@@ -30,23 +30,23 @@ struct OwnWords : QTranslator {
 };
 
 TEST(Catalogue, FollowsTheLanguagesOfTheApplicationBehindTheTranslatorsOfTheHost) {
-    test::speak(true);
+    test::setGerman(true);
     QLibrary library(TIV_LIBRARY);
     ASSERT_TRUE(library.load()) << library.errorString().toStdString();
     EXPECT_EQ(shown("Loads"), "Lasten") << "at once, from the library itself";
-    test::speak(false);
+    test::setGerman(false);
     EXPECT_EQ(shown("Loads"), "Loads");
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Austria));
     OwnWords own;
     QCoreApplication::installTranslator(&own);
     EXPECT_EQ(shown("Loads"), "Lasten");
     EXPECT_EQ(shown("Groups"), "Abschnitte");
-    test::speak(false);
-    test::speak(true);
+    test::setGerman(false);
+    test::setGerman(true);
     EXPECT_EQ(shown("Groups"), "Abschnitte");
     QCoreApplication::removeTranslator(&own);
     EXPECT_EQ(shown("Groups"), "Gruppen");
-    test::speak(false);
+    test::setGerman(false);
 }
 
 #if defined(Q_OS_UNIX)  // where the environment holds the languages
@@ -86,7 +86,7 @@ TEST(Catalogue, OfAThirdLanguageIsAFileBesideTheLibraryOrInItsShareFolder) {
         EXPECT_EQ(shown("Loads"), "Charges") << place;
         EXPECT_EQ(shown("Groups"), "Groups") << "a text that the file lacks";
     }
-    test::speak(false);
+    test::setGerman(false);
 }
 
 }  // namespace

@@ -21,7 +21,7 @@ void settle() {
     }
 }
 
-void speak(bool german) {
+void setGerman(bool german) {
     QLocale::setDefault(german ? QLocale(QLocale::German, QLocale::Germany) : QLocale::c());
     QEvent change(QEvent::LocaleChange);
     QCoreApplication::sendEvent(QCoreApplication::instance(), &change);

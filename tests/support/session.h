@@ -1,6 +1,6 @@
-// Sessions are plain text: what a user does, and what is then seen. A line is a verb and its argument. A verb
-// that sees fails the test unless its argument is what it sees, and an unknown verb fails. "\n" and "\t" are
-// escapes. A session begins with its title; an empty line ends it:
+// Sessions are plain text: what a user does, and what the program then shows. A line is a verb and its argument.
+// Some verbs act, the others compare their argument with what is shown. An unknown verb is a failure. "\n" and
+// "\t" are escapes. A session begins with its title and ends with an empty line:
 //
 //     # A choice is written at once.
 //     choose Groups = Full output
@@ -33,7 +33,7 @@ struct Session {
     int line;  // of the title in its file, from 1
     QStringList lines;
 };
-// Those of a file. A comment without lines is none.
+// Reads the sessions of a file. A comment that no line follows is no session.
 std::vector<Session> readSessions(const QString& file);
 void play(const Session& session, const Does& does, const Sees& sees);
 // Its title as the name of a test: "A_choice_is_written_at_once".
@@ -42,7 +42,7 @@ void PrintTo(const Session& session, std::ostream* out);  // name as GoogleTest 
 
 // Processes pending events.
 void settle();
-// Sets the language of the application: German or English.
-void speak(bool german);
+// Sets the language of the application: German, or English.
+void setGerman(bool german);
 
 }  // namespace test

@@ -3,6 +3,8 @@
 #include <QCoreApplication>
 #include <QRegularExpression>
 
+#include <vector>
+
 namespace tiv::apps {
 namespace {
 
@@ -71,17 +73,27 @@ constexpr const char* reasons[] = {
     QT_TRANSLATE_NOOP("Reason", "Miss exponent in number."),
 };
 
+// What a text ends with that gives the reason; the pattern captures what stands for "%1".
+QRegularExpression patternOf(const char* reason) {
+    QString pattern = QRegularExpression::escape(QString::fromLatin1(reason));
+    pattern.replace(QRegularExpression(QStringLiteral("\\\\%\\d")), QStringLiteral("(.+)"));
+    return QRegularExpression(QStringLiteral("(^|: )%1$").arg(pattern));
+}
+
 }  // namespace
 
 QString translatedReason(const QString& text) {
-    for (const char* reason : reasons) {
-        QString pattern = QRegularExpression::escape(QString::fromLatin1(reason));
-        pattern.replace(QRegularExpression(QStringLiteral("\\\\%\\d")), QStringLiteral("(.+)"));
-        const auto match = QRegularExpression(QStringLiteral("(^|: )%1$").arg(pattern)).match(text);
+    static const std::vector<QRegularExpression> patterns = [] {
+        std::vector<QRegularExpression> result;
+        for (const char* reason : reasons) result.push_back(patternOf(reason));
+        return result;
+    }();
+    for (std::size_t i = 0; i < patterns.size(); ++i) {
+        const auto match = patterns[i].match(text);
         if (!match.hasMatch()) continue;
-        QString translation = QCoreApplication::translate("Reason", reason);
-        for (int i = 2; i <= match.lastCapturedIndex(); ++i)
-            translation = translation.arg(translatedReason(match.captured(i)));
+        QString translation = QCoreApplication::translate("Reason", reasons[i]);
+        for (int part = 2; part <= match.lastCapturedIndex(); ++part)
+            translation = translation.arg(translatedReason(match.captured(part)));
         return text.left(match.capturedEnd(1)) + translation;
     }
     return text;

@@ -155,7 +155,6 @@ Document documentOf(const QCommandLineParser& arguments) {
     if (file.isEmpty() || file == standardStream)
         throw UsageError(QStringLiteral("expected --settings with the name of a file"));
     const auto table = makeTable(arguments.positionalArguments().constFirst(), projectOf(arguments));
-    requireOptions(*table);
     const QString before = presentText(file);
     if (QFile::exists(file)) readSettings(*table, file);
     return documentOf(file, before, table);

@@ -48,15 +48,14 @@ QString decoded(const QByteArray& bytes) {
     return QString::fromUtf16(reinterpret_cast<const char16_t*>(bytes.constData()), bytes.size() / 2);
 }
 
-// The file at the end of the links that `name` leads to. A link in /dev or /proc leads to no file: "/dev/stdout"
-// is the standard output, and replacing the file that the shell has redirected it to would hide it.
+// The file at the end of the links that `name` leads to. A link in /proc leads to no file: /dev/stdout and
+// /dev/fd/1 are the standard output, and replacing the file that the shell has redirected it to would hide it.
 QString linkedFile(const QString& name) {
     constexpr int mostLinks = 40;  // as Linux follows
     QFileInfo file(name);
     for (int links = 0; file.isSymLink(); ++links) {
-        const QString path = file.absoluteFilePath();
-        if (path.startsWith(QLatin1String("/dev/")) || path.startsWith(QLatin1String("/proc/")))
-            throw failure(name, QStringLiteral("not a file"));
+        const QString folder = file.dir().canonicalPath();
+        if (folder.startsWith(QLatin1String("/proc/"))) throw failure(name, QStringLiteral("not a file"));
         if (links == mostLinks) throw failure(name, QStringLiteral("too many links"));
         file.setFile(file.symLinkTarget());
     }

@@ -5,7 +5,6 @@
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
-#include <QThread>
 
 #include <gtest/gtest.h>
 
@@ -45,7 +44,6 @@ class EchotableTool : public testing::Test {
             [](QProcess::CreateProcessArguments* start) { start->flags |= 8; });  // DETACHED_PROCESS
 #endif
         process.start(program, words);
-        if (!input.isEmpty()) QThread::msleep(50);  // the tool waits for its input
         process.write(input);
         process.closeWriteChannel();
         EXPECT_TRUE(process.waitForFinished()) << process.errorString().toStdString();
@@ -95,12 +93,12 @@ class EchotableTool : public testing::Test {
     const QTemporaryDir folder;
 };
 
-TEST_F(EchotableTool, TakesAProjectFromItsOptionsToItsInputLines) {
+TEST_F(EchotableTool, MakesInputLinesFromOptions) {
     repeat("session.txt");
     EXPECT_EQ(files()["L"].left(52), "ECHO OPT FULL VAL NO $ Voreinstellung aller Optionen");
 }
 
-TEST_F(EchotableTool, SaysInOneLineWhatWentWrongAndChangesNothing) {
+TEST_F(EchotableTool, ReportsErrorsInOneLineAndChangesNothing) {
     write("bad", "**");
     write("text", "{\"prop\":");
     run("project create newer");
@@ -108,36 +106,17 @@ TEST_F(EchotableTool, SaysInOneLineWhatWentWrongAndChangesNothing) {
     newer[63] = 2;  // the last byte of the format's number
     write("newer", newer);
     QDir(folder.path()).mkdir("folder");
+    const int other = tiv::dbo::createProject(folder.filePath("other").toStdString());
+    for (const tiv::dbo::Task& task :
+        {tiv::dbo::Task{"a\n\t\x1b[1m", 3, ""}, {"b", 99, "*\n*"}, {"c", 0, "**"}, {"d", 12, ""}})
+        tiv::dbo::storeTask(other, task);
+    tiv::dbo::closeProject(other);
     repeat("errors.txt");
 }
 
-TEST_F(EchotableTool, ReadsSettingsAsEditorsSaveThem) {
-    const char16_t wide[] = u"\ufeff{\"prop\":{\"full\":3}}\r\n";
-    for (const QByteArray& settings : {QByteArray("\xef\xbb\xbf{\"prop\":{\"full\":3}}\r\n\r\n"),
-             QByteArray(reinterpret_cast<const char*>(wide), sizeof(wide) - 2)})
-        EXPECT_EQ(run("set esk --settings -", settings), "ChAGAAA=\n");
-    EXPECT_EQ(run("set esk full=full --settings -", "CgAA\r\n\r\nChAGAAA="),
-        "ChAGAAA=\n! echotable: warning: standard input: 2 records instead of one, every option was reset\n");
-}
-
-TEST_F(EchotableTool, SaysWhatThisSystemDoesNotLetItDo) {
+TEST_F(EchotableTool, RunsInAShell) {
     if (!QFile::exists("/dev/full")) GTEST_SKIP() << "not this system";
     repeat("system.txt", &EchotableTool::shell);
-}
-
-TEST_F(EchotableTool, TakesWhatOtherHostsStore) {
-    const int project = tiv::dbo::createProject(folder.filePath("P").toStdString());
-    tiv::dbo::storeTask(project, {"a\n\t\x1b[1m", 3, ""});
-    tiv::dbo::storeTask(project, {"b", 99, "*\n*"});
-    tiv::dbo::storeTask(project, {"c", 3, "**"});
-    tiv::dbo::closeProject(project);
-    const QString info = QString::fromStdString(run("project info P"));
-    EXPECT_EQ(info.mid(info.indexOf("TASK")),
-        "TASK          PROGRAM  SETTINGS\na\\n\\t\\x1b[1m  esk\nb             99       *\\n*\n"
-        "c             esk      **\n");
-    EXPECT_EQ(run("set --project P --task b"), "! echotable: P: task \"b\": unknown program 99\n? 1\n");
-    EXPECT_EQ(run("telinp --project P --task c"),
-        "! echotable: P: task \"c\": Read out of bounds: 1 bytes requested, offset: 0, length: 0\n? 1\n");
 }
 
 }  // namespace

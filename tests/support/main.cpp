@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QFileInfo>
 
 #include <gtest/gtest.h>
 
@@ -22,6 +23,7 @@ int main(int argc, char** argv) {
     qunsetenv("LANGUAGE");
     qputenv("LC_ALL", "C");
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (QFileInfo("/dev/shm").isWritable()) qputenv("TMPDIR", "/dev/shm");  // databases do not wait for a disk
     QApplication application(argc, argv);
     testing::InitGoogleTest(&argc, argv);
     test::recordReports();

@@ -78,7 +78,11 @@ class Key {
 
 }  // namespace tiv::container::model
 
+namespace std {
+
 template <>
-struct std::hash<tiv::container::model::Key> {
+struct hash<tiv::container::model::Key> {
     std::size_t operator()(const tiv::container::model::Key& key) const { return hash_value(key); }
 };
+
+}  // namespace std

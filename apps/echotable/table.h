@@ -19,7 +19,7 @@
 
 namespace tiv::tool {
 
-// By number, 0 to 13.
+// In the order of EchoData::ProgrammTypes.
 QStringList programNames();
 
 // A type's name; the number of one that has no name.

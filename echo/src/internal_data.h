@@ -36,7 +36,7 @@ struct ElementTypeFlags {
 
 inline constexpr int programTypeCount = EchoData::ROVA + 1;
 
-// Whether an option (0 to 64, utils.h) is shown and written in such a project.
+// Whether an option (a row of the table in utils.cpp) is shown and written in such a project.
 bool isOptionApplicable(const ElementTypeFlags& flags, int option);
 
 class InternalInterface {

@@ -5,7 +5,7 @@
 //     appendOptionLine(lines, flags, 4, FULL_OUTPUT, 1)              // ECHO OPT REAC VAL FULL $ Support reactions
 //     defaultsLine(1, false)                                         // ECHO FULL NO $ no output of text lists
 //
-// Everywhere: an option is a number from 0 to 64; `language` is 0 for German keywords, else English.
+// Everywhere: an option is a row of the table, from 0 to optionCount - 1; `language` is 0 for German keywords, else English.
 // The comment after "$" is the English description in the language of the application.
 #pragma once
 

@@ -251,7 +251,7 @@ Reader::Header Reader::header() {
 }
 
 void Reader::readRecord(const Struct& description, void* record, unsigned depth) {
-    unsigned next = 0;  // the least id that is still expected
+    unsigned next = 0;  // the least id that may still come
     for (Header field = header(); field.type != WireType::Stop; field = header()) {
         if (field.type == WireType::StopBase) return skipRecord(depth);
         if (field.id >= next && field.id < description.rows.size())

@@ -23,7 +23,7 @@ auto& memberAs(const Row& row, Record* record) {
 
 // Calls `visit` with a reference to the field's member and returns what it returns; a visitor that
 // changes the member returns nothing. The member is a bool, an integer, float, double or std::string.
-// An enumeration, whose own type a row does not know, is visited as a std::int32_t.
+// An enumeration is visited as a std::int32_t, because a row does not hold its type.
 // Not for a nested struct: enter row.nested instead.
 template <class Record, class Visit>
 auto visitMember(const Row& row, Record* record, Visit visit) {

@@ -118,7 +118,7 @@ namespace detail {
 
 struct AnyMember {
     template <class T>
-    constexpr operator T() const;  // never defined: only asked whether it would fit
+    constexpr operator T() const;  // never defined: used in a requires-expression only
 };
 
 // How many members an aggregate has: as many initialisers as it takes.
@@ -138,7 +138,6 @@ constexpr bool sameMember(const A& a, const B& b) {
         return false;
 }
 
-// Whether some member is listed twice.
 template <class... Fields>
 constexpr bool repeatsMember(const std::tuple<Fields...>& fields) {
     const auto occurrences = [&](const auto& one) {
@@ -192,7 +191,7 @@ constexpr Description<Fields...> record(const char* name, Fields... fields) {
     return {name, {fields...}};
 }
 
-// The table of a record; found beside the record's struct.
+// The table of a record, from the function describe() in the namespace of the record.
 template <class Record>
 inline constexpr auto description = describe(static_cast<const Record*>(nullptr));
 

@@ -1,4 +1,4 @@
-# What hosts find the installed libraries by: the CMake packages and the files for pkg-config.
+# The CMake packages and the files for pkg-config, by which hosts find the installed libraries.
 include(${CMAKE_CURRENT_LIST_DIR}/install.cmake)
 
 math(EXPR other "11 - ${TIV_QT}")  # the other version of Qt

@@ -49,7 +49,7 @@ function(tiv_library target name)
     endif()
 endfunction()
 
-# tiv_cmake_package(<name> <template> <component>): what find_package(<name>) reads.
+# tiv_cmake_package(<name> <template> <component>): installs the files that find_package(<name>) reads.
 function(tiv_cmake_package name template component)
     set(folder ${CMAKE_INSTALL_LIBDIR}/cmake/${name})
     set(config ${PROJECT_BINARY_DIR}/${name}-config)

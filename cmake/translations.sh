@@ -5,7 +5,7 @@
 set -euo pipefail
 cd "${1:-$(dirname "${BASH_SOURCE[0]}")/..}"
 
-# properties/ knows no translation context, so lupdate cannot place its texts. This lists every text("...") and
+# The sources of properties/ name no translation context, which lupdate needs. This lists every text("...") and
 # QT_TR_NOOP("...") of the inspector in the context of the library.
 inspector_texts() {
     echo "// Made by ./dev translations from the inspector's sources, for lupdate."

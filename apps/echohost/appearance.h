@@ -8,7 +8,7 @@ namespace echohost {
 
 class Appearance {
  public:
-    // Keeps the present style and colours, for setDark(false) and the destructor.
+    // Saves the current style and colours, for setDark(false) and the destructor.
     Appearance();
     ~Appearance() { setDark(false); }
     Appearance(const Appearance&) = delete;

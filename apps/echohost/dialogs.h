@@ -1,5 +1,4 @@
-// The questions that the window asks before it makes something. Nothing is returned when the engineer
-// cancels.
+// The dialogs that ask for the data of new projects and tasks. They return nothing when the user cancels.
 #pragma once
 
 #include <tiv/dbo/dbo.h>

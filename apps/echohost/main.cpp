@@ -30,7 +30,7 @@ int main(int argc, char** argv) {
     arguments.addOption(dark);
     arguments.addPositionalArgument(
         QStringLiteral("FILE"), QStringLiteral("The project to open."), QStringLiteral("[FILE]"));
-    arguments.parse(words(argc, argv));  // with Qt's own options still among them
+    arguments.parse(words(argc, argv));  // which still contain Qt's own options
     if (arguments.isSet(help) || arguments.isSet(version)) {
         const QCoreApplication withoutDisplay(argc, argv);
         arguments.process(withoutDisplay);

@@ -44,7 +44,7 @@ QString projectFile(const QString& chosen) {
     return chosen.isEmpty() || chosen.endsWith(suffix, Qt::CaseInsensitive) ? chosen : chosen + suffix;
 }
 
-// Of the one file that was dropped; empty for anything else.
+// The path of a single dropped file; empty for anything else.
 QString droppedFile(const QMimeData* data) {
     const auto urls = data->urls();
     return urls.size() == 1 ? urls.front().toLocalFile() : QString();
@@ -61,7 +61,7 @@ MainWindow::MainWindow()
               10000);
       })),
       ui_(std::make_unique<Ui::MainWindow>()) {
-    tiv::dbo::setBusyTimeout(std::chrono::milliseconds(500));  // the window does not react while it waits
+    tiv::dbo::setBusyTimeout(std::chrono::milliseconds(500));  // the window is blocked while it waits
     const QString language = QSettings().value(languageKey).toString();
     languages_.choose(language.isEmpty() ? QLocale() : QLocale(language));
     ui_->setupUi(this);
@@ -76,7 +76,7 @@ MainWindow::MainWindow()
     ui_->keywordLanguage->setCurrentIndex(Languages::current().language() == QLocale::German ? 0 : 1);
     for (QWidget* widget :
         std::initializer_list<QWidget*>{ui_->addButton, ui_->heading, ui_->keywordLanguage})
-        widget->setMinimumHeight(ui_->keywordLanguage->sizeHint().height());  // the views begin at one height
+        widget->setMinimumHeight(ui_->keywordLanguage->sizeHint().height());  // aligns the views below them
     fillLanguageMenu();
     connectActions();
     restoreSettings();
@@ -122,7 +122,7 @@ void MainWindow::connectActions() {
     connect(ui_->recentMenu, &QMenu::aboutToShow, this, &MainWindow::fillRecentMenu);
 }
 
-// ---- what is remembered ----
+// ---- settings of the window ----
 
 void MainWindow::restoreSettings() {
     fillRecentMenu();
@@ -301,7 +301,7 @@ void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
 void MainWindow::dropEvent(QDropEvent* event) {
     const QString file = droppedFile(event->mimeData());
     event->acceptProposedAction();
-    // Queued: a question would keep the program waiting from which the file was dragged.
+    // Queued: a message box here would block the program from which the file was dragged.
     QMetaObject::invokeMethod(
         this,
         [this, file] {
@@ -340,7 +340,7 @@ void MainWindow::listTasks(const QString& selected) {
 
 void MainWindow::showTask() {
     Task* task = currentTask();
-    // Also in case that the table cannot be made.
+    // First, because making the table can throw.
     if (!task || !task->madeEcho()) ui_->inspectors->setCurrentWidget(ui_->nothing);
     if (task) ui_->inspectors->setCurrentWidget(pageOf(task->echo()));
 }
@@ -348,11 +348,11 @@ void MainWindow::showTask() {
 QWidget* MainWindow::pageOf(tiv::echo::EchoData& echo) {
     if (QWidget* page = pages_[&echo]) return page;
     QWidget* inspector = echo.createPropertyInspector(this);
-    // By name: the inspector's class is the library's own.
+    // By name: the inspector's class is internal to the library.
     connect(inspector, SIGNAL(settingsChanged()), this, SLOT(refresh()));
     connect(&echo, &QObject::destroyed, inspector, [inspector] { delete inspector; });
     ui_->inspectors->addWidget(inspector);
-    // The new widgets are at the end of the tab order. What is right of them goes behind them.
+    // The new widgets are at the end of the tab order. The widgets on their right follow them.
     QWidget* last = previousInFocusChain();
     while (last->focusPolicy() == Qt::NoFocus) last = last->previousInFocusChain();
     for (QWidget* widget :
@@ -403,7 +403,7 @@ void MainWindow::removeTask() {
     listTasks(tasks.empty() ? QString() : tasks[next]->name());
 }
 
-// ---- what follows ----
+// ---- what depends on project and options ----
 
 QString MainWindow::lines() const {
     Task* task = currentTask();

@@ -30,7 +30,7 @@ class MainWindow;
 class MainWindow : public QMainWindow {
     Q_OBJECT
  public:
-    // Takes the library's assertion reports for the status bar until it is destroyed.
+    // Shows the library's assertion reports in the status bar until it is destroyed.
     MainWindow();
     ~MainWindow() override;
 
@@ -46,8 +46,7 @@ class MainWindow : public QMainWindow {
     void dropEvent(QDropEvent* event) override;
 
  private:
-    // Brings everything up to date that follows from the project, the selected task and its options. Throws
-    // nothing.
+    // Updates everything that depends on the project, the selected task and its options. Throws nothing.
     Q_SLOT void refresh();
 
     void connectActions();
@@ -69,16 +68,16 @@ class MainWindow : public QMainWindow {
     void showTask();
     QWidget* pageOf(tiv::echo::EchoData& echo);
 
-    // Qt cannot pass exceptions through its event loop: they end here, as a message. Refreshes.
+    // Shows exceptions in a message box, because Qt cannot pass them through its event loop. Then refreshes.
     void attempt(const std::function<void()>& action);
-    // Enter gives the harmless answer.
+    // `harmless` is the default button.
     QMessageBox::StandardButton ask(QMessageBox::Icon icon, const QString& text,
         QMessageBox::StandardButtons buttons, QMessageBox::StandardButton harmless);
-    // The place of the answer that was clicked; -1 for Cancel, the default.
+    // The index of the answer that was clicked; -1 for Cancel, the default.
     int ask(QMessageBox::Icon icon, const QString& text, const QStringList& answers);
     Project::Keep askWhoseToKeep(const QString& task);
     QString askNewFile(const QString& title);
-    // False when the engineer would rather stay with the unsaved changes.
+    // Whether the project may be closed: asks the user if there are unsaved changes.
     bool mayLeave();
 
     int currentRow() const;

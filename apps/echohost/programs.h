@@ -1,4 +1,4 @@
-// The analysis programs as an engineer knows them, in the order of EchoData::ProgrammTypes.
+// The names of the analysis programs for the user, in the order of EchoData::ProgrammTypes.
 #pragma once
 
 #include <QString>

@@ -128,7 +128,7 @@ bool Project::isChanged() const {
 }
 
 bool Project::save(const Ask& ask) {
-    // By its name: the open handle would go on to write to a file that was deleted, moved or replaced.
+    // Opened again by name: the open handle still refers to a file that was deleted, moved or replaced.
     const int database = dbo::openProject(file_.toStdString());
     const auto close = qScopeGuard([&] { dbo::closeProject(database); });
     std::set<const Task*> dropped;
@@ -148,8 +148,8 @@ bool Project::save(const Ask& ask) {
     return true;
 }
 
-// Makes the changes that were refused changes of the rows that the file has now, or drops them. Where the
-// engineer cancels, nothing is changed.
+// Rebases each refused change on the row that the file has now, or drops it. If the user cancels, nothing is
+// changed.
 bool Project::settle(
     const std::set<std::string>& names, int database, const Ask& ask, std::set<const Task*>& dropped) {
     const auto rows = dbo::tasks(database);
@@ -181,7 +181,7 @@ bool Project::settle(
     return true;
 }
 
-// The changed task that was read under the name, or that is to get it.
+// The changed task that was read under the name, or else the one that has it now.
 Task* Project::changedTask(const std::string& name) const {
     Task* result = nullptr;
     for (const auto& task : tasks_) {

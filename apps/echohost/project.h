@@ -38,8 +38,8 @@ class Task {
     // Null before that.
     tiv::echo::EchoData* madeEcho() const { return echo_.get(); }
 
-    // Why the stored settings cannot be read, in English. Empty when they can, and while they are to be
-    // replaced.
+    // Why the stored settings cannot be read, in English. Empty if they can, and while the next save will replace
+    // them.
     QString problem() const;
     // On the next save, overwrites the stored settings with those shown.
     void replaceStored();
@@ -50,11 +50,11 @@ class Task {
     tiv::dbo::Task row() const;
     bool isChanged() const;
 
-    // The file now holds this row, or none. What was edited here is kept.
+    // The file now holds this row, or none. Edits made here are kept.
     void setStored(const std::optional<tiv::dbo::Task>& stored) { stored_ = stored; }
     // row() has been stored.
     void markStored();
-    // Drops what was edited here.
+    // Replaces the task, with the edits made here, by the stored row.
     void load(const tiv::dbo::Task& stored);
 
  private:
@@ -86,11 +86,11 @@ class Project {
     bool isChanged() const;
 
     enum class Keep { Mine, Theirs, Neither };
-    // Asked for a task that was changed here and, since it was read, by another program. Neither: do not save.
+    // Called for a task that was changed here and, since it was read, by another program. Neither: do not save.
     using Ask = std::function<Keep(const QString& task)>;
 
     // Writes what was changed here, in one transaction, and reads what other programs have changed.
-    // Returns false if the engineer would not save. Then, and when it throws, nothing was written.
+    // Returns false if the user has cancelled. Then, and when it throws, nothing was written.
     bool save(const Ask& ask);
 
     // Writes everything that is shown here to a new project file.

@@ -1,4 +1,4 @@
-// The verbs of the command line, and what their arguments have in common. Each verb has a file of its name;
+// The verbs of the command line, and the options that they share. Each verb has a file of its name;
 // those of `project` are in project.cpp. main.cpp lists the verbs, parses and runs.
 //
 //     Verb show() {

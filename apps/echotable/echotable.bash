@@ -69,7 +69,7 @@ _echotable_choices() { # <tool>: for the word at COMP_CWORD; none where a file i
     esac
 }
 
-# The file of the project whose tasks the present word names; empty if it names none.
+# The file of the project, if the present word is the name of a task; otherwise empty.
 _echotable_project() {
     case $COMP_CWORD:${COMP_WORDS[1]}:${COMP_WORDS[2]-}:${COMP_WORDS[COMP_CWORD - 1]} in
         4:project:store:* | 4:project:load:* | 4:project:remove:*) _echotable_unquoted "${COMP_WORDS[3]}" ;;

@@ -34,7 +34,7 @@ struct Document {
     std::function<bool(const QString& settings, bool overwrite)> save;
 };
 
-// Edits are never thrown away without a question.
+// The window of `edit`. It asks before edits are lost.
 class Window : public QDialog {
     Q_DECLARE_TR_FUNCTIONS(EditWindow)
 
@@ -105,7 +105,7 @@ class Window : public QDialog {
     boost::signals2::scoped_connection change_;
 };
 
-// "[*]" in a title stands for the mark of unsaved changes, twice for itself.
+// In a window title, "[*]" is the place of the mark of unsaved changes, and "[*][*]" is the text "[*]".
 QString titleOf(QString name, const Table& table) {
     return name.replace(QLatin1String("[*]"), QLatin1String("[*][*]")) + QStringLiteral("[*] - ") +
            programName(static_cast<int>(table.programType));

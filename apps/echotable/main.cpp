@@ -1,5 +1,5 @@
 // echotable: the echo tables of the analysis programs on the command line. Finds the verb, parses its
-// arguments, runs it, and turns what went wrong into one line on stderr and the exit code.
+// arguments, runs it, and reports a failure by one line on stderr and the exit code.
 #include "apps/echotable/arguments.h"
 #include "apps/echotable/text.h"
 #include "platform/streams/streams.h"

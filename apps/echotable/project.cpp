@@ -14,7 +14,7 @@
 namespace tiv::tool {
 namespace {
 
-// What dbo makes no file for.
+// For this name dbo creates a project without a file.
 const QString temporary = QStringLiteral(":memory:");
 
 constexpr struct {

@@ -1,4 +1,4 @@
-// Project files, and the projects that stand in for one.
+// Project files, and temporary projects in place of one.
 #pragma once
 
 #include "tiv/dbo/dbo.h"

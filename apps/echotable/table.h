@@ -34,8 +34,8 @@ std::shared_ptr<Table> makeTable(const QString& program, const Project& project)
 // record. Throws failure() with the library's text for settings that cannot be read.
 void load(Table& table, const QString& text, const QString& origin);
 
-// Loads the settings of a file, or of standard input for "-". Throws failure() also when there are none: a
-// command before the pipe has failed.
+// Loads the settings of a file, or of standard input for "-". Throws failure() also for an empty text,
+// which a failed command before the pipe leaves.
 void readSettings(Table& table, const QString& file);
 
 // Throws UsageError for a program without options, whose settings cannot be changed.
@@ -58,7 +58,7 @@ TableRow rowNamed(const Table& table, const QString& name);
 
 echo::OutPutType levelOf(const Table& table, const TableRow& row);
 
-// How the command line calls a level: "full" for FULL_OUTPUT, "4" for FOUR, "#99" for one without a name.
+// The word of a level on the command line: "full" for FULL_OUTPUT, "4" for FOUR, "#99" for one without a name.
 QString word(echo::OutPutType level);
 
 // The words of the levels offered for the option.

@@ -23,7 +23,7 @@ QString inputName(const QString& file) {
 
 namespace {
 
-// What the file last failed with.
+// The last error of the file.
 QString reasonOf(const QFileDevice& file) {
     const QString reason = file.errorString();
     return reason == qt_error_string(EBADF) ? QStringLiteral("closed") : reason;
@@ -31,7 +31,7 @@ QString reasonOf(const QFileDevice& file) {
 
 constexpr int longest = 64 << 20;  // bytes of a settings text
 
-// All of a text that is not too long.
+// Reads the file to its end, or to one byte more than is allowed.
 QByteArray start(QFile& file) {
     QByteArray bytes;
     while (bytes.size() <= longest) {
@@ -51,7 +51,7 @@ QString decoded(const QByteArray& bytes) {
 // The file at the end of the links that `name` leads to. A link in /proc leads to no file: /dev/stdout and
 // /dev/fd/1 are the standard output, and replacing the file that the shell has redirected it to would hide it.
 QString linkedFile(const QString& name) {
-    constexpr int mostLinks = 40;  // as Linux follows
+    constexpr int mostLinks = 40;  // the limit of Linux
     QFileInfo file(name);
     for (int links = 0; file.isSymLink(); ++links) {
         const QString folder = file.dir().canonicalPath();

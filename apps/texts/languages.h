@@ -16,7 +16,7 @@ namespace tiv::apps {
 class Languages {
  public:
     static std::vector<QLocale> offered();
-    // The one of `offered()` that windows now have: "de" also serves "de_AT".
+    // The one of `offered()` that windows now use; "de" is also used for "de_AT".
     static QLocale current();
 
     // Until this object is destroyed. The widgets then receive QEvent::LanguageChange.

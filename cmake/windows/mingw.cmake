@@ -1,4 +1,4 @@
-# 64-bit Windows from Debian: the compiler that knows std::thread, what dependencies.sh built, and Wine.
+# 64-bit Windows from Debian: the compiler variant with std::thread, the libraries built by dependencies.sh, and Wine.
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
 set(CMAKE_CXX_COMPILER x86_64-w64-mingw32-g++-posix)

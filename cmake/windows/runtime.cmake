@@ -1,4 +1,4 @@
-# On Windows an installed program finds its libraries in its own folder: what the package needs beside it.
+# Windows looks for libraries in the folder of the program: installs the libraries of others there.
 # The target `tiv_zip` packs an installation.
 foreach(module Core Gui Widgets)
     install(FILES $<TARGET_FILE:Qt${TIV_QT}::${module}> TYPE BIN)

@@ -1,16 +1,16 @@
 #!/usr/bin/env bash
 # Runs a Windows program under Wine, without a display: wine.sh <program> [argument]...
-# `wine.sh --stop` ends what Wine keeps running between programs.
+# `wine.sh --stop` ends the processes that Wine keeps running between programs.
 set -euo pipefail
 build=$(cd "$(dirname "${BASH_SOURCE[0]}")/../../build" && pwd)
 export WINEPREFIX=$build/wine WINEDEBUG=-all WINEDLLOVERRIDES='mscoree=;mshtml='
-# Where DLLs are that are not beside the program, unless the caller knows better.
+# The folder of the DLLs that are not beside the program, unless the caller has set another one.
 export WINEPATH=${WINEPATH-Z:$build/windows-dependencies/bin}
 # Wine drops variables whose names begin with QT_. The offscreen platform draws text with these fonts alone.
 export WINEQT_QPA_PLATFORM=offscreen WINEQT_QPA_FONTDIR='Z:\usr\share\fonts\truetype\dejavu'
 
 [ "$1" != --stop ] || { wineserver -k || true; exit; } # none runs
-# The first program makes the prefix and starts services, which would hold its output open.
+# Makes the prefix and starts the services first: they would keep the output of a program open.
 (
     flock 9
     mkdir -p "$WINEPREFIX"

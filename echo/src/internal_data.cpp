@@ -10,7 +10,7 @@
 namespace tiv::echo::data {
 namespace {
 
-// Labels and tooltips are found in the library's catalogue by their source texts.
+// Looks a label or tooltip up in the library's catalogue, by its source text.
 QString inCatalogue(const std::string& /*key*/, const char* sourceText) {
     return EchoData::tr(sourceText);
 }

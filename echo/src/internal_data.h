@@ -21,7 +21,7 @@ class SelectionManager;
 
 namespace tiv::echo::data {
 
-// Which kinds of element the project holds. The fixed ones have no query yet.
+// Which kinds of element the project holds. The database has no query for the fixed ones.
 struct ElementTypeFlags {
     bool fixed0 = true;
     bool quads = false;
@@ -54,8 +54,8 @@ class InternalInterface {
     const std::shared_ptr<container::model::Model> model;
     // The definitions of the record's fields, which never change: all tables of a record share them.
     const properties::Properties* const properties;
-    // Those that inspectors of this table show, with the levels offered in the application's language.
-    // Made with the first inspector.
+    // A copy for the inspectors of this table, with the levels offered in the application's language. Null
+    // until there is an inspector.
     std::shared_ptr<properties::Properties> inspected;
     // The key of the record that inspectors show.
     const std::shared_ptr<properties::SelectionManager<container::model::Key>> selection;
@@ -65,7 +65,7 @@ class InternalInterface {
     const EchoData::ProgrammTypes programType;
 
  protected:
-    // Asks the database which kinds of element the project holds. `definitions` must have static lifetime.
+    // Reads from the database which kinds of element the project holds. `definitions` must have static lifetime.
     InternalInterface(EchoData::ProgrammTypes type, int database, const properties::Properties& definitions);
     // Makes the option's key visible if the option applies to the project.
     void showOption(const std::string& key, int option);
@@ -77,8 +77,8 @@ inline constexpr std::string_view keywordPath = "echo.keyword";
 // The translator of the definitions of a record, with this qualified name of its schema.
 std::shared_ptr<const translation::Xlator> makeXlator(const std::string& structName);
 
-// Of a table without options. Constants of this library are never destroyed: a host's last EchoData may be
-// a global object.
+// The definitions of a table without options. Constants of this library are never destroyed, because a host's
+// last EchoData may be a global object.
 const properties::Properties& noDefinitions();
 
 // The key of the settings record in every model.

@@ -78,7 +78,7 @@ NamedLevels levelExplanations() {
 void offerLevels(properties::Properties& properties) {
     const auto names = std::make_shared<const NamedLevels>(levelNames());
     const auto explanations = std::make_shared<const NamedLevels>(levelExplanations());
-    std::map<std::vector<OutPutType>, properties::NamedValues> known;  // most options offer the same
+    std::map<std::vector<OutPutType>, properties::NamedValues> known;  // most options offer the same levels
     for (const auto& property : properties.list) {
         const std::vector<OutPutType> levels = offeredLevels(property->key);
         properties::NamedValues& entries = known[levels];

@@ -71,6 +71,7 @@ enum class OtherTypes {
     AlsoInserted,  // likewise, but insertXMLData works
 };
 
+// Where a failed assertion is reported. sic: host tools match on both, so they never change.
 struct ReportSite {
     const char* source = nullptr;
     int line = 0;

@@ -16,6 +16,7 @@ constexpr ServedType types[] = {
     serves<qsx::ElPlData>(EchoData::QSX_ELPL, elPlOptions),
 };
 
+// sic: host tools match on the source and the line of this report.
 constexpr Program program{types, OtherTypes::Refused, {"echo/src/qsx_data", 121}};
 
 }  // namespace

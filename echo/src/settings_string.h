@@ -1,4 +1,4 @@
-// The settings string: what a host keeps of an echo table. One base64 line of the settings record in
+// The settings string, in which a host stores the settings of an echo table. One base64 line of the settings record in
 // Compact Binary version 1 (bond/compact_binary.h), closed by a line feed:
 //
 //     settingsString(schema, record)                  // "ChAGAAA=\n": field 0 at FULL_OUTPUT

@@ -16,7 +16,7 @@ struct Option {
     const char* description;
 };
 
-// sic: the analysis programs read these words. Entries that look like a slip are kept, too.
+// sic: the analysis programs read these words, so entries that look like mistakes are kept.
 constexpr Option options[] = {
     {"VOLL", "FULL", QT_TRANSLATE_NOOP("EchoData", "Default of all options")},                      // 0
     {"GRUP", "GRP", QT_TRANSLATE_NOOP("EchoData", "Group parameters")},                             // 1

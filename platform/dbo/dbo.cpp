@@ -42,7 +42,7 @@ struct Project {
     Statement count;  // of one kind of element; destroyed before its connection
 };
 
-std::mutex projectsMutex;  // for the three below; a project itself belongs to one thread
+std::mutex projectsMutex;  // for the three below; a project is used by one thread only
 std::map<int, Project>& projects = *new std::map<int, Project>;  // never destroyed: for a host's last calls
 int lastHandle = 0;
 std::chrono::milliseconds busyTimeout{500};
@@ -58,7 +58,7 @@ Project* find(int database) {
 }
 
 [[noreturn]] void refuse(const std::string& path, const std::string& reason) {
-    const std::string name = path.substr(0, path.find('\0'));  // what() would end there
+    const std::string name = path.substr(0, path.find('\0'));  // what() ends there
     throw std::runtime_error(name + ": " + reason);
 }
 
@@ -172,8 +172,7 @@ int keep(Project project) {
     return lastHandle;
 }
 
-// Throws "already exists" unless the number that the pragma reads is 0. Any other file than a database exists,
-// too.
+// Throws "already exists" unless the number that the pragma reads is 0; also for a file that is no database.
 void requireNone(const Project& project, const char* pragma) {
     int number = 0;
     const auto read = [](void* into, int, char** values, char**) {
@@ -185,7 +184,7 @@ void requireNone(const Project& project, const char* pragma) {
     check(project, result);
 }
 
-// Throws unless the file that is open is the one at its path. Windows does not let it be another one.
+// Throws unless the open file is the one at its path. On Windows it always is.
 void requireSameFile(const Project& project) {
     int moved = 0;
     sqlite3_file_control(project.connection.get(), "main", SQLITE_FCNTL_HAS_MOVED, &moved);
@@ -199,7 +198,7 @@ void writeProject(const Project& project, const ElementCounts& counts) {
     const std::string header = "PRAGMA application_id = " + std::to_string(applicationId) +
                                "; PRAGMA user_version = " + std::to_string(projectFormat) + ";";
     Transaction transaction(project);
-    requireNone(project, "PRAGMA schema_version");  // an empty file has its first page by now
+    requireNone(project, "PRAGMA schema_version");  // page_count is 1 by now
     execute(project, header.c_str());
     execute(project, emptyTables);
     const Statement insert = prepare(project, "INSERT INTO elements VALUES (?, ?)");
@@ -217,7 +216,7 @@ void writeProject(const Project& project, const ElementCounts& counts) {
 void removeEmptyFile(const Project& project) try {
     sqlite3* connection = project.connection.get();
     sqlite3_busy_timeout(connection, 0);
-    // The lock keeps others from writing until the file is gone. They find that out with requireSameFile().
+    // The lock keeps others from writing until the file is gone. Their requireSameFile() throws then.
     if (sqlite3_exec(connection, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr) == SQLITE_BUSY) return;
     requireNone(project, "PRAGMA schema_version");
     std::error_code ignored;
@@ -263,13 +262,13 @@ bool has(int database, ElementKind kind, int* count) {
         sqlite3_stmt* statement = project->count.get();
         sqlite3_bind_int(statement, 1, static_cast<int>(kind));
         if (sqlite3_step(statement) == SQLITE_ROW) held = sqlite3_column_int(statement, 0);
-        check(*project, sqlite3_reset(statement));  // repeats what went wrong in the step
+        check(*project, sqlite3_reset(statement));  // returns the error of the step
     }
     if (count) *count = held;
     return held > 0;
 }
 
-// Throws std::invalid_argument, as the public one.
+// Throws std::invalid_argument, as the public function does.
 void addElements(const Project& project, ElementKind kind, int count) {
     if (count < 1) {
         throw std::invalid_argument(

@@ -77,7 +77,8 @@ class Catalogue : public QTranslator {
     std::unique_ptr<QTranslator> current_;
 };
 
-// A pre-routine has no argument. This code is linked statically, so each library has its own installer.
+// A global, because the start-up functions of Qt have no argument. This code is linked statically, so each library has
+// its own installer.
 TIV_QT_InitTranslator* installer = nullptr;
 
 }  // namespace

@@ -3,8 +3,8 @@
 
 namespace tiv::streams {
 
-// Call it first in main(). A standard stream that the caller has closed ("<&-") fails from then on with EBADF.
-// Otherwise the next file that the program opens gets its number, and is read or written in its place.
+// Call it first in main(). From then on a standard stream that the caller has closed ("<&-") fails with EBADF.
+// Otherwise the next file that the program opens would get its number, and be read or written in its place.
 void reserveClosed();
 
 }  // namespace tiv::streams

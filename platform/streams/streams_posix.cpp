@@ -8,7 +8,8 @@ namespace tiv::streams {
 void reserveClosed() {
     for (int stream = STDIN_FILENO; stream <= STDERR_FILENO; ++stream) {
         if (fcntl(stream, F_GETFD) != -1) continue;
-        // The lowest free number is this one. It is opened for the direction in which nobody uses it.
+        // open() returns the lowest free number, which is this one. Reading from an input that is open for
+        // writing, or the other way round, fails.
         [[maybe_unused]] const int opened = open("/dev/null", stream == STDIN_FILENO ? O_WRONLY : O_RDONLY);
     }
 }

@@ -2,6 +2,6 @@
 
 namespace tiv::streams {
 
-void reserveClosed() {}  // the numbers of closed streams are not used for other files
+void reserveClosed() {}  // Windows does not reuse the numbers of closed streams
 
 }  // namespace tiv::streams

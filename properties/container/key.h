@@ -1,5 +1,5 @@
 // The key of an object in a Model: any value that can be copied, compared, ordered and hashed.
-// Called by everyone who stores or reads an object; the settings record of an echo table has Key(0).
+// Used wherever an object is stored or read; the settings record of an echo table has Key(0).
 //
 //     model.read<Properties>(0);
 //     model.read<Properties>("prop");  // text is always kept as std::string

@@ -1,5 +1,5 @@
 // The store of typed objects under keys, in which an echo table keeps its settings record. The program
-// tables insert and read it, the settings loader replaces it, the inspector reads and edits it.
+// tables insert, read and replace it; the inspector reads and edits it.
 //
 //     Model model;
 //     Transaction filling(model);
@@ -9,7 +9,7 @@
 //     model.onChange([](const Changes& changes) { refresh(changes.modified); });
 //
 // Objects are inserted and erased by a Transaction and changed through an ObjectHandle, inside a
-// transaction as well. Reading needs none, and sees the changes of the open transaction. Failures are
+// transaction as well. Reading needs none, and includes the changes of the open transaction. Failures are
 // std::runtime_error with the texts given here, and leave the model as it was. Not thread-safe.
 #pragma once
 

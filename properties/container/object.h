@@ -1,4 +1,4 @@
-// A type-erased object of a Model, and the operations of its type. Inner part of the model:
+// A type-erased object of a Model, and the operations of its type. Internal to the model:
 // the typed functions of Model and Transaction lower to it.
 #pragma once
 

@@ -1,5 +1,5 @@
 // A typed reference to one object of a Model, through which the object is changed.
-// Returned by Model::handle(); used by the settings loader and the inspector, inside a Transaction:
+// Returned by Model::handle(); used inside a Transaction:
 //
 //     const ObjectHandle<Properties> record = model.handle<Properties>(0);
 //     Transaction transaction(model);

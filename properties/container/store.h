@@ -1,5 +1,5 @@
-// What a Model consists of, and the journal of its open transaction. Inner part, seen by model.cpp and
-// transaction.cpp alone.
+// The entries of a Model, and the journal of its open transaction. Internal: included by model.cpp and
+// transaction.cpp only.
 //
 // A rollback must not fail, so it allocates nothing: an erased object's entry stays in place, empty, until
 // the transaction has ended, and a record keeps the object as it was.
@@ -38,7 +38,7 @@ using Entries = boost::multi_index_container<Entry,
         boost::multi_index::hashed_unique<boost::multi_index::member<Entry, Key, &Entry::key>>,
         boost::multi_index::ordered_unique<boost::multi_index::member<Entry, Key, &Entry::key>>>>;
 
-// An entry that the transaction has touched. An entry stands for its key while the transaction is open.
+// An entry that the transaction has touched. It stays in place while the transaction is open.
 struct Record {
     const Entry* entry;
     mutable Object before;       // a rollback puts the object here that it removes
@@ -51,7 +51,7 @@ using Records = boost::multi_index_container<Record,
 
 struct Journal {
     Records records;
-    std::vector<std::shared_ptr<void>> discarded;  // created and erased again; alive as all erased ones
+    std::vector<std::shared_ptr<void>> discarded;  // created and erased again; kept alive until the end
 
     // The entry's record, or null.
     const Record* find(const Entry* entry) const {
@@ -87,7 +87,7 @@ struct Store {
     Journal* journal = nullptr;          // of the open transaction
     std::optional<Observers> observers;  // made for the first one: most models have none
 
-    // The key's entry, be it empty, or null.
+    // The key's entry, which may be empty; null if there is none.
     const Entry* find(const Key& key) const {
         const auto entry = entries.find(key);
         return entry == entries.end() ? nullptr : &*entry;

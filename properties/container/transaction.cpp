@@ -37,8 +37,8 @@ Transaction::Transaction(Model& model) : store_(model.store_) {
 
 Transaction::~Transaction() {
     if (!journal_) return;
-    // Objects that go are kept in the journal. They die with it, when no transaction is open any more:
-    // their destructors may use the model.
+    // Removed objects move into the journal. They are destroyed with it, when no transaction is open any more,
+    // because their destructors may use the model.
     for (const Record& record : journal_->records) {
         std::swap(record.entry->object, record.before);
         const detail::Object& restored = record.entry->object;

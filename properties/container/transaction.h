@@ -1,5 +1,4 @@
 // The one way to change a Model: several changes that happen together or not at all.
-// Used by the program tables, the settings loader and the inspector.
 //
 //     Transaction transaction(model);
 //     transaction.insert(0, Properties{});
@@ -34,7 +33,7 @@ class Transaction {
     // are destroyed last, when the model has no open transaction.
     ~Transaction();
 
-    // Gives the object to the model. "Key already exists." unless the key is free or was erased before;
+    // Inserts the object. "Key already exists." unless the key is free or was erased before;
     // also for a key that cannot be told from another one by "<", such as a second number when one is NaN.
     template <Storable T>
     void insert(const Key& key, T object) {

@@ -50,7 +50,7 @@ class Branch {
 class Configuration {
  public:
     Configuration() = default;
-    // Shows the settings of `base` wherever this one has none of its own. `base` is kept alive.
+    // A setting that this one does not have is read from `base`, which is kept alive.
     explicit Configuration(std::shared_ptr<const Configuration> base) : base_(std::move(base)) {}
     // Throws std::invalid_argument `Not a setting's path: "<path>"` when a name between dots is empty.
     void set(std::string_view path, Setting value);

@@ -1,4 +1,4 @@
-// Access to a settings record in the object model for code that knows its description but not its type:
+// Access to a settings record in the object model for code that has its description but not its type:
 //
 //     const RecordAccess& access = recordAccess<esk::Data>();
 //     const void* record = access.read(model, Key(0));           // "Unknown key.", "Type mismatch."
@@ -21,7 +21,8 @@ struct RecordAccess {
     void (*insertDefault)(container::model::Transaction&, const container::model::Key&);
     const void* (*read)(const container::model::Model&, const container::model::Key&);
     void* (*modify)(container::model::Model&, const container::model::Key&);
-    // A record with nothing set, and what moves its content into the model's record.
+    // `make` returns a new record with nothing set, `replace` moves the content of such a record into that of
+    // the model.
     std::shared_ptr<void> (*make)();
     void (*replace)(container::model::Model&, const container::model::Key&, void* record);
 };

@@ -17,12 +17,12 @@ class DefaultValidatorFactory {
     using Validator = std::function<bool(const QVariant&)>;
     using Maker = std::function<Validator(const Branch& validator)>;
 
-    // Knows "named_value_list": exactly the values of the entries.
+    // With "named_value_list", which accepts exactly the values of the entries.
     DefaultValidatorFactory();
     void add(const QString& kind, Maker maker) { makers_[kind] = std::move(maker); }
 
-    // The validator of the property's "validator.kind". For none, or one that is not known here: with a
-    // "validator.precision", numbers of so many decimal places; else everything.
+    // The validator of the property's "validator.kind". Without one, or for an unknown one: numbers with at most
+    // "validator.precision" decimal places where that is set; otherwise accepts everything.
     Validator create(const Property& property) const;
 
  private:

@@ -1,4 +1,4 @@
-// The translator of a property set: labels, tooltips and categories reach the user through it.
+// The translator of a property set, for its labels, tooltips and categories.
 //
 //     auto xlator = std::make_shared<Xlator>([](const std::string&, const char* s) { return tr(s); });
 //     configure_xlator(*xlator, "tiv.echo.esk.Data");

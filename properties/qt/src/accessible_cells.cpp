@@ -115,7 +115,7 @@ class AccessibleCell : public QAccessibleInterface,
     QStringList keyBindingsForAction(const QString& /*name*/) const override { return {}; }
 
  private:
-    const AccessibleTable& table_;  // which deletes its cells
+    const AccessibleTable& table_;  // deletes its cells
     QPersistentModelIndex index_;
     int column_;
     bool isHeading_;
@@ -144,7 +144,7 @@ QAccessibleInterface* AccessibleTable::cell(const QModelIndex& index, int column
     QAccessible::Id& id = cells_[{index.row(), column}];
     if (auto* known = static_cast<AccessibleCell*>(QAccessible::accessibleInterface(id))) {
         if (known->index() == index) return known;
-        QAccessible::deleteAccessibleInterface(id);  // its row has gone
+        QAccessible::deleteAccessibleInterface(id);  // its row is gone
     }
     auto* made = new AccessibleCell(*this, index, column);
     id = QAccessible::registerAccessibleInterface(made);
@@ -284,7 +284,7 @@ QStringList AccessibleCell::actionNames() const {
     return {pressAction(), setFocusAction()};
 }
 
-// Whatever keys are held: some assistive programs act while theirs are. A press may delete this cell.
+// Ignores modifier keys: some assistive programs act while the user holds theirs. A press may delete this cell.
 void AccessibleCell::doAction(const QString& name) {
     if (!actionNames().contains(name)) return;
     QAbstractItemView& view = table_.view();

@@ -7,8 +7,8 @@
 namespace tiv::properties {
 namespace {
 
-// It is there for its event only, and no child of its parent. That is the application: in a dialog, Orca would read
-// out the dialog and its labels first.
+// Exists only to send its event; it is not in the list of children of its parent. The parent is the application: with
+// a dialog as the parent, Orca would read out the dialog and its labels first.
 class Notification : public QAccessibleInterface {
  public:
     explicit Notification(QString text) : text_(std::move(text)) {}
@@ -38,12 +38,12 @@ Announcement::~Announcement() {
     drop();
 }
 
-// A new interface for each text: screen readers keep the name of one that they know.
+// A new interface for each text, because screen readers cache the name of an interface.
 void Announcement::make(const QString& text) {
     if (!QAccessible::isActive()) return;
     drop();
     auto* notification = new Notification(text);
-    id_ = QAccessible::registerAccessibleInterface(notification);  // which takes it
+    id_ = QAccessible::registerAccessibleInterface(notification);  // takes ownership
     QAccessibleEvent event(notification, QAccessible::ObjectShow);
     QAccessible::updateAccessibility(&event);
 }

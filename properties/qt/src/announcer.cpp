@@ -28,7 +28,7 @@ void Announcer::reveal(const std::vector<PropertyValue>& values) {
     if (isCurrent) announce(first);
 }
 
-// Qt sends an event when another cell becomes the current one, but none that is read out when the value changes.
+// Screen readers read out Qt's event when another cell becomes the current one, but none when the value changes.
 void Announcer::announce(const QModelIndex& current) {
     if (!QAccessible::isActive() || !view_->hasFocus()) return;
     const QString label = current.siblingAtColumn(RecordItemModel::LabelColumn).data().toString();
@@ -37,7 +37,7 @@ void Announcer::announce(const QModelIndex& current) {
         label + QStringLiteral(". ") + current.data().toString() + QStringLiteral(". ") + state);
 }
 
-void Announcer::say(const QString& text) {
+void Announcer::showMessage(const QString& text) {
     if (!message_) {
         message_ = new QLabel(view_->parentWidget());
         message_->setWordWrap(true);

@@ -24,7 +24,7 @@ class Announcer {
     // Makes the first of these rows the current one, in view. A screen reader reads it out.
     void reveal(const std::vector<PropertyValue>& values);
     // Adds the text to the message below the table.
-    void say(const QString& text);
+    void showMessage(const QString& text);
     void clear();
 
  private:

@@ -70,7 +70,7 @@ void Clipboard::copySettings() const {
 void Clipboard::paste() const {
     if (!editor->mayEdit()) return;
     const QMimeData empty;
-    const QMimeData* clipboard = QApplication::clipboard()->mimeData();  // null: it has no owner
+    const QMimeData* clipboard = QApplication::clipboard()->mimeData();  // null without an owner
     if (!clipboard) clipboard = &empty;
     if (const auto copied = rowsFromClipboard(*clipboard)) return pasteRows(*copied);
     if (host->readSettings) pasteSettings(*clipboard);
@@ -90,16 +90,16 @@ void Clipboard::pasteRows(const std::vector<CopiedRow>& copied) const {
     }
     const QPointer<RecordEditor> self(editor);
     editor->set(wanted);
-    if (self && !rest.isEmpty()) announcer->say(rows->text("Not pasted: %1").arg(rest.join(", ")));
+    if (self && !rest.isEmpty()) announcer->showMessage(rows->text("Not pasted: %1").arg(rest.join(", ")));
 }
 
-// What the filter hides stays.
+// Rows that the filter hides keep their values.
 void Clipboard::pasteSettings(const QMimeData& clipboard) const {
     std::vector<PropertyValue> wanted;
     try {
         wanted = host->readSettings(clipboard);
     } catch (const std::exception& problem) {
-        return announcer->say(rows->text("Not changed: %1").arg(QString::fromUtf8(problem.what())));
+        return announcer->showMessage(rows->text("Not changed: %1").arg(QString::fromUtf8(problem.what())));
     }
     QStringList rest;
     for (const auto& property : shown->hidden()) {
@@ -112,7 +112,8 @@ void Clipboard::pasteSettings(const QMimeData& clipboard) const {
     const QPointer<RecordEditor> self(editor);
     editor->load(wanted);
     if (self && !rest.isEmpty())
-        announcer->say(rows->text("Not changed, because the filter hides it: %1").arg(rest.join(", ")));
+        announcer->showMessage(
+            rows->text("Not changed, because the filter hides it: %1").arg(rest.join(", ")));
 }
 
 }  // namespace tiv::properties

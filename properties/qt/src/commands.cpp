@@ -26,15 +26,15 @@ namespace {
 struct Command {
     enum Keys {
         Claimed,            // also while the command is not possible
-        ClaimedIfPossible,  // otherwise they are the host's
-        ClaimedButNotHeld,  // claimed; a key that is held down acts once
+        ClaimedIfPossible,  // otherwise left to the host
+        ClaimedButNotHeld,  // claimed; a key that is held down runs the command once
     };
 
     QString text;  // in the menu
     QList<QKeySequence> keys;
     Keys claim;
     std::function<bool()> isPossible;
-    std::function<void()> run;  // does nothing, or says why, when it is not possible
+    std::function<void()> run;  // when it is not possible: does nothing, or shows why
     bool beginsGroup = false;   // of the menu
 };
 
@@ -156,7 +156,7 @@ bool isTyping(const QKeyEvent& event) {
     return !event.text().isEmpty() && event.text().at(0).isPrint();
 }
 
-// Of all values that the rows offer.
+// The menu has all values that the selected rows offer.
 void addValueMenu(QMenu& menu, const CommandParts& p, QWidget* context) {
     auto* values = new QMenu(p.host->setTo(), &menu);
     menu.insertMenu(menu.actions().at(1), values);  // behind the command that opens the list

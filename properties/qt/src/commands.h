@@ -1,8 +1,8 @@
 // The commands of an inspector: one table, from which its keys and its context menu are made.
 //
-// Keys of the table are claimed when Qt asks whether they are a shortcut of the host (ShortcutOverride): those
-// of the commands; the arrows, Home, End, PageUp and PageDown, alone or with Shift; Ctrl+Space; and every
-// character without Ctrl, Alt or Meta, because typing finds rows. All others (Ctrl+S, F9, Tab) are the host's.
+// The table accepts these keys at ShortcutOverride, so that no shortcut of the host takes them: those of the
+// commands; the arrows, Home, End, PageUp and PageDown, alone or with Shift; Ctrl+Space; and every
+// character without Ctrl, Alt or Meta, because typing finds rows. All others (Ctrl+S, F9, Tab) are left to the host.
 #pragma once
 
 class QKeyEvent;
@@ -19,7 +19,7 @@ class ShownRows;
 struct Clipboard;
 struct InspectorHost;
 
-// What the commands act on; it belongs to the inspector.
+// What the commands act on. The inspector owns all parts.
 struct CommandParts {
     const InspectorHost* host;
     RecordEditor* editor;
@@ -30,12 +30,12 @@ struct CommandParts {
     Announcer* announcer;
 };
 
-// Whether the key is the table's.
+// Whether the table claims the key.
 bool isClaimed(const CommandParts& parts, const QKeyEvent& event);
 // Runs the command of the key. False if the key has none, or is left to the host.
 bool runCommand(const CommandParts& parts, const QKeyEvent& event);
-// All commands, as they are possible now. `context` is the parent of the menu, which deletes itself when it is
-// closed. A command runs after the menu has returned, if `context` still exists.
+// All commands; those that are not possible now are disabled. `context` is the parent of the menu, which deletes
+// itself when it is closed. A command runs after the menu has returned, if `context` still exists.
 QMenu* makeMenu(const CommandParts& parts, QWidget* context);
 
 }  // namespace tiv::properties

@@ -41,10 +41,10 @@ NamedValueEditor::NamedValueEditor(QWidget* parent, std::shared_ptr<const Proper
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSizeConstraint(QLayout::SetNoConstraint);  // a list of few entries is small
     layout->addWidget(list_);
-    setFrameShape(QFrame::Box);  // seen in a dark theme, too
+    setFrameShape(QFrame::Box);  // also visible in a dark theme
     list_->setFrameShape(QFrame::NoFrame);
     list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    list_->setMouseTracking(true);  // what the mouse is over is marked
+    list_->setMouseTracking(true);  // for itemEntered()
     list_->installEventFilter(this);
     parent->installEventFilter(this);
     setFocusProxy(list_);
@@ -81,7 +81,7 @@ void NamedValueEditor::fill() {
 }
 
 void NamedValueEditor::choose(QListWidgetItem* entry) {
-    if (isChosen_) return;  // in some styles a click activates, too
+    if (isChosen_) return;  // in some styles a click also activates the entry
     value_ = entry->data(Qt::UserRole);
     isChosen_ = true;
     hide();
@@ -164,8 +164,8 @@ QWidget* DefaultEditorFactory::create(
     const auto* kind = property->configuration.get<QString>(path::editorKind);
     auto maker = kind ? makers_.find(*kind) : makers_.end();
     if (maker == makers_.end()) {
-        const bool truth = property->field->type == bond::Type::Bool;
-        maker = makers_.find(truth ? QStringLiteral("boolean") : QStringLiteral("text"));
+        const bool isBool = property->field->type == bond::Type::Bool;
+        maker = makers_.find(isBool ? QStringLiteral("boolean") : QStringLiteral("text"));
     }
     QWidget* editor = maker->second(parent, property);
     editor->setAutoFillBackground(true);  // covers the text of its row

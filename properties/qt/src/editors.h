@@ -1,5 +1,5 @@
-// The widgets that edit one property. A factory makes them by "editor.kind"; they are handed their value,
-// and give it back, through their user property.
+// The widgets that edit one property. A factory makes them by "editor.kind". Their value is set
+// and read through their user property.
 #pragma once
 
 #include "properties/definitions/property.h"
@@ -21,7 +21,7 @@ class QListWidgetItem;
 
 namespace tiv::properties {
 
-// An editor with a window of its own that opens at its cell. It is closed when one of the signals comes.
+// An editor with a window of its own that opens at its cell. It is closed when it emits one of its signals.
 class PopupEditor : public QFrame {
     Q_OBJECT
  public:
@@ -70,12 +70,12 @@ class DefaultEditorFactory {
  public:
     using Maker = std::function<QWidget*(QWidget* parent, const std::shared_ptr<const Property>&)>;
 
-    // Knows "named_value_list", "boolean" and "text".
+    // With the kinds "named_value_list", "boolean" and "text".
     DefaultEditorFactory();
     void add(const QString& kind, Maker maker) { makers_[kind] = std::move(maker); }
 
-    // The editor of the property's "editor.kind"; for none, or one that is not known here, a check box
-    // for a truth value and a text line for anything else. Owned by `parent`.
+    // The editor of the property's "editor.kind". Without one, or for an unknown one, a check box for a bool and
+    // a text line for any other type. Owned by `parent`.
     QWidget* create(QWidget* parent, const std::shared_ptr<const Property>& property) const;
 
  private:

@@ -10,7 +10,7 @@
 namespace tiv::properties {
 namespace {
 
-// Without case and accents: "Träger" and "TRAGER" fold to the same.
+// The text without case and accents: "Träger" and "TRAGER" fold to the same.
 QString folded(const QString& text) {
     QString result;
     for (const QChar c : text.normalized(QString::NormalizationForm_KD))
@@ -57,7 +57,7 @@ void FilterBar::placeBefore(QWidget* next) {
 
 void FilterBar::open() {
     show();
-    query_->setFocus(Qt::ShortcutFocusReason);  // which selects its text
+    query_->setFocus(Qt::ShortcutFocusReason);  // also selects its text
 }
 
 void FilterBar::close() {
@@ -67,22 +67,22 @@ void FilterBar::close() {
     emit closed();
 }
 
-bool FilterBar::onKey(const QKeyEvent& event, bool onlyAsk) {
+bool FilterBar::onKey(const QKeyEvent& event, bool checkOnly) {
     switch (event.key()) {
         case Qt::Key_Escape:
-            if (!onlyAsk) query_->text().isEmpty() ? close() : query_->clear();
+            if (!checkOnly) query_->text().isEmpty() ? close() : query_->clear();
             return true;
         case Qt::Key_Down:
         case Qt::Key_Return:
         case Qt::Key_Enter:
-            if (!onlyAsk) emit left();
+            if (!checkOnly) emit left();
             return true;
         default:
             return false;
     }
 }
 
-// Return and Escape in the bar are not the host's, nor is the Space that checks the box.
+// Keeps Return and Escape in the bar from the host, and the Space that checks the box.
 bool FilterBar::eventFilter(QObject* watched, QEvent* event) {
     const bool isOverride = event->type() == QEvent::ShortcutOverride;
     if (!isOverride && event->type() != QEvent::KeyPress) return false;

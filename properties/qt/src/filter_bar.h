@@ -21,20 +21,20 @@ class FilterBar : public QWidget {
     // Puts the bar before `next` in the order of the Tab key.
     void placeBefore(QWidget* next);
     void open();
-    // Finds everything again.
+    // Hides the bar and clears it, so that every row is found again.
     void close();
 
  signals:
     void queryChanged();
-    void left();  // Return or Down: the user goes on to the table
+    void left();  // by Return or Down: the focus moves on to the table
     void closed();
 
  protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-    // With `onlyAsk`, returns whether the key would be handled.
-    bool onKey(const QKeyEvent& event, bool onlyAsk);
+    // With `checkOnly`, returns whether the key would be handled.
+    bool onKey(const QKeyEvent& event, bool checkOnly);
 
     QLineEdit* query_;
     QCheckBox* changedOnly_;

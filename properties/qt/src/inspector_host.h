@@ -1,4 +1,4 @@
-// What an inspector asks of the owner of the record.
+// What the owner of the record provides to an inspector.
 #pragma once
 
 #include "properties/definitions/property.h"
@@ -16,7 +16,7 @@ namespace tiv::properties {
 // Every function may be empty.
 struct InspectorHost {
     std::function<bool()> isEditable;   // empty: always
-    std::function<void()> retranslate;  // the language has changed: give the properties their texts
+    std::function<void()> retranslate;  // after a change of language: renews the texts of the properties
     std::function<QString()> name;      // of the table, for screen readers
     std::function<QString()> setTo;     // title of the menu of values; empty: there is no such menu
     std::function<QString(const Property&)> keyword;           // the property's word in the user's input text

@@ -69,7 +69,7 @@ void PropertyDelegate::setEditorData(QWidget* editor, const QModelIndex& index) 
     QStyledItemDelegate::setEditorData(editor, index);
 }
 
-// Called by the view in the midst of its work.
+// Queued, because the view is still closing the editor.
 void PropertyDelegate::setModelData(
     QWidget* editor, QAbstractItemModel* /*model*/, const QModelIndex& index) const {
     const QVariant value = editor->metaObject()->userProperty().read(editor);
@@ -82,13 +82,13 @@ void PropertyDelegate::setModelData(
 void PropertyDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {
     QStyledItemDelegate::initStyleOption(option, index);
     if (view_->fitsInOneLine(index))
-        option->features &= ~QStyleOptionViewItem::WrapText;  // costs the style another layout of the text
+        option->features &= ~QStyleOptionViewItem::WrapText;  // makes the style lay out the text once more
     else if (index.column() == RecordItemModel::LabelColumn)
         option->text = view_->fitted(index);
     if (index.column() == RecordItemModel::ValueColumn) view_->makeRoomForArrow(*option);
     if (index.column() != RecordItemModel::ResetColumn || !index.data(RecordItemModel::ChangedRole).toBool())
         return;
-    // A letter, so that the style gives it the colour of the text, whatever that is.
+    // Drawn as text, so that it has the colour that the style gives to the text.
     option->text = PropertyView::resetSign();
     option->features |= QStyleOptionViewItem::HasDisplay;
     option->displayAlignment = Qt::AlignCenter;
@@ -105,7 +105,7 @@ void PropertyDelegate::paint(
         paintArrow(painter, option, index);
 }
 
-// As a button: its colours go together, whatever the style gives to a selected row.
+// As a tool button, whose colours fit together in every style, also in a selected row.
 void PropertyDelegate::paintArrow(
     QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const {
     QStyleOptionViewItem cell = option;

@@ -30,7 +30,7 @@ class PropertyDelegate : public QStyledItemDelegate {
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 
  signals:
-    // Asks for the record to be written. A slot may destroy the view and this delegate.
+    // The user has entered a value, which is to be written. A slot may destroy the view and this delegate.
     void entered(const QModelIndex& index, const QVariant& value) const;
 
  protected:

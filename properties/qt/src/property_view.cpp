@@ -24,9 +24,9 @@ namespace {
 constexpr int labelColumn = RecordItemModel::LabelColumn;
 constexpr int valueColumn = RecordItemModel::ValueColumn;
 constexpr int resetColumn = RecordItemModel::ResetColumn;
-constexpr int fewestLines = 3, mostLines = 20;  // of a table that a layout is free to size
+constexpr int fewestLines = 3, mostLines = 20;  // of the size hints
 
-// The word with invisible places to break it into parts that fit into the width.
+// The word with zero-width spaces, at which it can be broken into parts that fit into the width.
 QString broken(const QString& word, const QFontMetrics& metrics, int width) {
     QString result;
     QTextBoundaryFinder letters(QTextBoundaryFinder::Grapheme, word);
@@ -34,7 +34,7 @@ QString broken(const QString& word, const QFontMetrics& metrics, int width) {
         const auto next = static_cast<int>(letters.toNextBoundary());
         const bool fits = next >= 0 && metrics.horizontalAdvance(word.mid(from, next - from)) <= width;
         if (!fits && to > from) {
-            if (from > 0) result += QChar(0x200B);  // zero-width space
+            if (from > 0) result += QChar(0x200B);
             result += word.mid(from, to - from);
             from = to;
         }
@@ -98,7 +98,8 @@ bool PropertyView::hasVisibleRows() const {
 
 void PropertyView::setModel(QAbstractItemModel* model) {
     QTreeView::setModel(model);
-    header()->setSectionResizeMode(valueColumn, QHeaderView::Fixed);  // one divider, behind the labels
+    header()->setSectionResizeMode(
+        valueColumn, QHeaderView::Fixed);  // the only divider is the one behind the labels
     header()->setSectionResizeMode(resetColumn, QHeaderView::Fixed);
 }
 
@@ -125,7 +126,7 @@ QSize PropertyView::sizeOf(QStyleOptionViewItem& option, const QString& text) co
     return style()->sizeFromContents(QStyle::CT_ItemViewItem, &option, {}, this);
 }
 
-// The style is asked once per column what it adds to a text; the widths of the texts are Qt's.
+// The style is queried once per column for what it adds to a text; QFontMetrics gives the widths of the texts.
 void PropertyView::measure() const {
     if (isMeasured_ || !model()) return;
     isMeasured_ = true;
@@ -191,7 +192,7 @@ int PropertyView::heightOf(const QModelIndex& cell) const {
     return *heights_.insert(text, std::max(lineHeight_, sizeOf(option, fitted(cell)).height()));
 }
 
-// The sum of its words: to shape a text costs most of measuring, and many texts share words.
+// The sum of the widths of its words: shaping texts dominates the cost of measuring, and many texts share words.
 int PropertyView::widthOf(const QString& text, QHash<QString, int>& known) const {
     const auto found = known.constFind(text);
     if (found != known.constEnd()) return *found;
@@ -225,8 +226,8 @@ void PropertyView::measureAgain() {
     fitColumns();
 }
 
-// Of labels and values. Without a scroll bar where every row fits in one line: while the bar of an earlier layout
-// takes its width, rows may wrap, and need the bar.
+// The width for labels and values. The scroll bar is left out where every row fits in one line: with the bar of an
+// earlier layout rows might wrap, and so need the bar.
 int PropertyView::roomForTexts() const {
     const QSize whole = maximumViewportSize();
     const int room = whole.width() - signWidth_;
@@ -242,7 +243,8 @@ int PropertyView::wantedLabel(int room) const {
 }
 
 // The labels get what they need and the values the rest. With less room labels are wrapped, then values, and
-// at last the words of the labels are broken. A share that the user gave to the labels is kept in these limits.
+// at last the words of the labels are broken. A share that the user has set with the divider is kept within
+// these limits.
 void PropertyView::fitColumns() {
     if (isFitting_ || !isVisible() || !model()) return;
     const QScopedValueRollback<bool> fitting(isFitting_, true);
@@ -303,7 +305,7 @@ void PropertyView::leaveHiddenRow() {
     if (row < model()->rowCount()) setCurrentIndex(model()->index(row, valueColumn));
 }
 
-// The commands act on the selected rows. A click makes its own selection.
+// Selects the current row, because the commands act on the selected rows. A click selects by itself.
 void PropertyView::focusInEvent(QFocusEvent* event) {
     QTreeView::focusInEvent(event);
     if (event->reason() == Qt::MouseFocusReason || selectionModel()->hasSelection()) return;
@@ -326,7 +328,7 @@ void PropertyView::keyboardSearch(const QString& text) {
     }
 }
 
-// Wherever a row is clicked, its value is the current cell.
+// The current cell is always the value of its row, wherever the row is clicked.
 void PropertyView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
     QTreeView::currentChanged(current, previous);
     if (current.isValid() && current.column() != valueColumn)
@@ -346,7 +348,7 @@ void PropertyView::dataChanged(const QModelIndex& first, const QModelIndex& last
     if (!static_cast<const RecordItemModel*>(model())->isOffered(first)) measureAgain();
 }
 
-// The columns come first, or the base class would ask for a scroll bar.
+// The columns are fitted first; otherwise the base class would show a scroll bar.
 void PropertyView::resizeEvent(QResizeEvent* event) {
     fitColumns();
     QTreeView::resizeEvent(event);

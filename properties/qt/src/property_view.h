@@ -23,23 +23,23 @@ class PropertyView : public QTreeView {
     void reset() override;
     // Shown instead of rows when no row is visible.
     void setPlaceholder(const QString& text);
-    // The rows or their texts have changed: makes room for them.
+    // Fits the columns to rows or texts that have changed.
     void measureAgain();
     bool hasVisibleRows() const;
-    // What a cell needs in its column, in pixels.
+    // The height that a cell needs in the width of its column, in pixels.
     int heightOf(const QModelIndex& cell) const;
     // True if the cell intersects the current paint region. (QTreeView paints whole rows.)
     bool paints(const QRect& cell) const { return painted_.intersects(cell); }
     bool fitsInOneLine(const QModelIndex& cell) const { return heightOf(cell) == lineHeight_; }
     // The text of a cell, with places to break the words that are wider than its column.
     QString fitted(const QModelIndex& cell) const;
-    // An arrow that turns back: the sign of a changed value, and its reset button.
+    // A circular arrow: marks a changed value, and resets it when clicked.
     static QString resetSign() { return QChar(0x21BA); }
     // Leaves room behind the text for the arrow of a list.
     void makeRoomForArrow(QStyleOptionViewItem& option) const;
     // Whether a click on the cell does more than to select its row.
     bool isPressable(const QModelIndex& cell) const;
-    // What the click does.
+    // Does what a click on the cell does.
     void press(const QModelIndex& cell);
     // Opens the editor of the row.
     void editRow(const QModelIndex& index);

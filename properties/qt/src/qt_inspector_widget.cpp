@@ -17,8 +17,8 @@
 
 namespace tiv::properties {
 
-// The view gets its parent when it is complete: under a disabled parent Qt would make its accessible interface
-// within the constructor of QWidget, and keep it.
+// The view gets its parent when it is complete. Under a disabled parent, Qt would make its accessible interface in
+// the constructor of QWidget, as that of a plain QWidget, and keep it.
 QtInspectorWidget::QtInspectorWidget(QWidget* parent, std::shared_ptr<Properties> properties,
     std::shared_ptr<SelectionManager<container::model::Key>> selection,
     std::shared_ptr<container::model::Model> model, std::shared_ptr<const DefaultEditorFactory> editors,
@@ -55,7 +55,9 @@ QtInspectorWidget::QtInspectorWidget(QWidget* parent, std::shared_ptr<Properties
     connect(rows_, &RecordItemModel::modelReset, this, &QtInspectorWidget::onRowsReset);
     connect(editor_, &RecordEditor::recordChanged, this, &QtInspectorWidget::onRecordChanged);
     connect(editor_, &RecordEditor::written, this, [this](const auto& values) { announcer_.reveal(values); });
-    connect(editor_, &RecordEditor::refused, this, [this](const QString& reason) { announcer_.say(reason); });
+    connect(editor_, &RecordEditor::refused, this, [this](const QString& reason) {
+        announcer_.showMessage(reason);
+    });
     connect(editor_, &RecordEditor::restored, this, [this](const auto& values) {
         shown_.unhide(values);
         announcer_.reveal(values);
@@ -118,7 +120,7 @@ void QtInspectorWidget::updateTexts() {
 // Selected rows are set together, but only if the row is one of them.
 void QtInspectorWidget::onEntered(const QModelIndex& index, const QVariant& value) {
     const auto property = rows_->property(index);
-    if (!property) return;  // its row has gone
+    if (!property) return;  // its row is gone
     PropertyList edited = shown_.targets();
     if (std::find(edited.begin(), edited.end(), property) == edited.end()) edited = {property};
     announcer_.clear();

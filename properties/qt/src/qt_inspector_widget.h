@@ -3,11 +3,12 @@
 //     auto* inspector = new QtInspectorWidget(parent, properties, selection, model, editors, validators);
 //     inspector->setPropertyFilterFunction([](const std::string& key) { return key == "prop.full"; });
 //
-// An edit is in the record before the next event, and every change of the record, whoever made it, is shown
-// at once; a hidden inspector is updated when it is shown. Errors are shown below the table; nothing is thrown
-// into the event loop. The widget shares what it is given: it may outlive the owner of the record, or go first.
+// An edit is in the record before the next event. Every change of the record, whatever its cause, is shown at
+// once; a hidden inspector is updated when it is shown. Errors are shown below the table; nothing is thrown
+// into the event loop. The widget shares its arguments, so it and the owner of the record may be destroyed in any
+// order.
 //
-// commands.h lists which keys are the inspector's; all others stay the host's.
+// commands.h lists the keys that the inspector claims; all others are left to the host.
 #pragma once
 
 #include "properties/definitions/property.h"
@@ -47,7 +48,7 @@ class QtInspectorWidget : public QWidget {
     void setPropertyFilterFunction(std::function<bool(const std::string&)> shows);
 
  signals:
-    // The record has changed, whoever changed it. A slot may destroy the inspector.
+    // The record has changed, whatever the cause. A slot may destroy the inspector.
     void settingsChanged();
 
  protected:

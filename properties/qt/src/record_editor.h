@@ -4,9 +4,9 @@
 //     editor.set({load, grp}, 3);     // written({{load, 3}, {grp, 3}})
 //     editor.undo();                  // written({{load, 0}, {grp, 0}})
 //
-// An observer of the record may run an event loop, in which the next gesture comes, write the record itself,
-// or destroy the inspector and with it the editor. Nothing is thrown. A step that no longer fits the record,
-// because somebody else has changed it, is forgotten.
+// An observer of the record may run an event loop, in which the user makes the next gesture; it may write the
+// record itself, or destroy the inspector and with it the editor. Nothing is thrown. A change of the record from
+// outside clears the steps, because they no longer fit.
 #pragma once
 
 #include "properties/definitions/property.h"
@@ -35,27 +35,27 @@ class RecordEditor : public QObject {
 
     // Whether there is a record, and it may be changed.
     bool isEditable() const { return record_->key() && isEditable_(); }
-    // The same; if not, the gesture is refused.
+    // The same; emits refused() if not.
     bool mayEdit();
     bool canUndo() const { return isEditable() && taken_ > 0; }
     bool canRedo() const { return isEditable() && taken_ < steps_.size(); }
 
-    // Sets the value of those properties that offer it.
+    // Sets the value of those properties that accept it, and emits refused() for the others.
     void set(const PropertyList& targets, const QVariant& value);
     void set(const std::vector<PropertyValue>& wanted);
-    // Sets values that are stored somewhere, offered or not.
+    // Sets the values, offered or not: those of stored settings and defaults.
     void load(const std::vector<PropertyValue>& wanted);
     void reset(const PropertyList& targets);
-    // Nothing happens without a step.
+    // Without a step to undo or redo, they do nothing.
     void undo();
     void redo();
 
  signals:
-    // The record has changed, whoever changed it.
+    // The record has changed, whatever the cause.
     void recordChanged();
     // A gesture has written these values, which differ from those before.
     void written(const std::vector<PropertyValue>& values);
-    // The same for a step that was taken back or again.
+    // The same for a step that was undone or redone.
     void restored(const std::vector<PropertyValue>& values);
     // A gesture was refused, as a whole or in part: a sentence for the user.
     void refused(const QString& reason);
@@ -74,7 +74,7 @@ class RecordEditor : public QObject {
     std::shared_ptr<const DefaultValidatorFactory> validators_;
     std::function<bool()> isEditable_;
     std::vector<Step> steps_;
-    std::size_t taken_ = 0;  // the first steps, which can be undone; the others can be redone
+    std::size_t taken_ = 0;  // the number of first steps that can be undone; the others can be redone
     bool writing_ = false;
     int changesSeen_ = 0;  // of the record, since this editor began to write
 };

@@ -11,7 +11,7 @@
 namespace tiv::properties {
 namespace {
 
-// The entry that stands for the value, or null.
+// The entry of the value, or null.
 const NamedValue* entryOf(const Property& property, std::string_view entriesPath, const QVariant& value) {
     const auto* entries = property.configuration.get<NamedValues>(entriesPath);
     const auto* isEqual = property.configuration.get<IsEqual>(path::editorIsEqual);
@@ -86,7 +86,7 @@ void RecordItemModel::update() {
         const QVariant byDefault = defaultValue(*shown.property);
         const bool marks = (value == byDefault) != (shown.announced == byDefault);
         shown.announced = std::move(value);
-        // Cell by cell: a view repaints itself as a whole for anything larger.
+        // One signal for each cell: for a larger range a view repaints itself as a whole.
         for (const int column : {ValueColumn, LabelColumn, ResetColumn})
             if (marks || column == ValueColumn) emit dataChanged(index(row, column), index(row, column));
     }
@@ -122,7 +122,7 @@ QString RecordItemModel::valueText(const Property& property, const QVariant& val
     return text("%1 (not offered)").arg(known ? known->text : value.toString());
 }
 
-// The label in full, what the schema and the program say of the option, and what the value means.
+// The full label, the schema's tooltip, the keyword, the default, and notes on the value.
 QString RecordItemModel::tooltipText(const Property& property, const QVariant& value) const {
     QStringList lines{label(*properties_, property)};
     if (property.tooltip) lines << tooltip(*properties_, property);

@@ -1,5 +1,5 @@
-// The rows of an inspector: the shown properties of the selected record, read from it whenever they are
-// asked for. Holds no values: edits go to the record, whose changes update this model.
+// The rows of an inspector: the shown properties of the selected record, read from it at every
+// request. Holds no values: edits go to the record, whose changes update this model.
 #pragma once
 
 #include "properties/definitions/property.h"
@@ -20,22 +20,22 @@ class RecordItemModel : public QAbstractTableModel {
     enum Column { LabelColumn, ValueColumn, ResetColumn, ColumnCount };
     enum Role {
         ChangedRole = Qt::UserRole,  // bool: the value is not the schema's default
-        SearchRole,                  // all that a filter finds the row by
+        SearchRole,                  // the text in which a filter searches
     };
 
-    // `isEditable` is asked before every edit, `keyword` for the word of a property in the user's input text
-    // (empty: it has none).
+    // `isEditable` is called before every edit. `keyword` returns the word of a property in the user's input text,
+    // or an empty one.
     RecordItemModel(std::shared_ptr<const Properties> properties, std::shared_ptr<DataModelSignals> record,
         std::function<bool()> isEditable, std::function<QString(const Property&)> keyword, QObject* parent);
 
     // Shows the properties whose keys `shows` accepts, all for an empty function: by weight and then in order
     // of the set, under the headings of their categories.
     void show(std::function<bool(const std::string&)> shows);
-    // The record has changed. Without a record there are no rows.
+    // Updates the rows after a change of the record. Without a record there are no rows.
     void update();
     // Whether there is a record where there was none at the last update, or the other way round.
     bool isOutdated() const { return hasRecord_ != (record_->key() != nullptr); }
-    // The texts have changed their language.
+    // Updates all texts after a change of the language.
     void retranslate();
 
     // Null for a heading.

@@ -90,7 +90,7 @@ int ShownRows::firstOf(const std::vector<PropertyValue>& values) const {
     return -1;
 }
 
-// Only a new query, or new texts, hide and show rows: one that is set back to its default stays.
+// Called for a new query and for new texts only, so that a row that is set back to its default stays visible.
 void ShownRows::filter() {
     if (!filter_) return;
     int heading = -1;

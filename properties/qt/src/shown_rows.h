@@ -16,7 +16,7 @@ class ShownRows {
     // Both must outlive this; the filter bar is put into the layout of the view's parent.
     ShownRows(PropertyView* view, const RecordItemModel* rows) : view_(view), rows_(rows) {}
 
-    // The selected rows; without any, the current row. A row that the filter hides is none of them.
+    // The selected rows; without any, the current row. Rows that the filter hides are left out.
     PropertyList targets() const;
     PropertyList shown() const;
     PropertyList hidden() const;
@@ -28,7 +28,7 @@ class ShownRows {
     bool isFilterOpen() const;
     void openFilter();
     void closeFilter();
-    // Hides and shows rows again: the rows or their texts have changed.
+    // Applies the filter to rows or texts that have changed.
     void filter();
     void updateTexts();
     // Shows rows that the filter has hidden.

@@ -58,7 +58,7 @@ class TIV_ECHOTABLE_EXPORT EchoData : public QObject {
     }
 #endif
 
-    /// One task of one analysis program. (sic: a host's code spells it so.)
+    /// One task of one analysis program. (sic: hosts use this spelling.)
     enum ProgrammTypes : std::uint32_t {
         QSX_BRUC = 0,     ///< cross sections, ultimate limit state
         QSX_RISS = 1,     ///< cross sections, crack width
@@ -76,23 +76,23 @@ class TIV_ECHOTABLE_EXPORT EchoData : public QObject {
         ROVA = 13,        ///< load trains
     };
 
-    /// Every option at its program's default. Asks the database which kinds of element the project
-    /// holds, here and never again: an option that needs quads, beams or springs applies if there are any.
+    /// Every option at its program's default. Reads from the database, once, which kinds of element the
+    /// project holds: an option that needs quads, beams or springs applies if there are any.
     /// \param type an unknown one is reported as a failed assertion, `0 && "invalid prog_type"` at
     ///     echo/src/internal_data:120, and gives an object without options.
     /// \param database the handle of the open project (tiv/dbo/dbo.h). It may be closed afterwards.
     /// \throws std::runtime_error "<path>: <reason>" where the project file cannot be read.
     EchoData(ProgrammTypes type, int database);
 
-    /// Inspectors may stay: their rows can still be read, and refuse edits.
+    /// Inspectors may outlive it: their rows can still be read, and refuse edits.
     ~EchoData() override;
 
     /// A new widget that shows the options applicable to the project and writes each choice straight
     /// into this object. Any number of inspectors may show the same options. Widget, parent and EchoData
     /// may be destroyed in any order.
     ///
-    /// The widget has a signal settingsChanged(), sent after each change of the settings, whoever made
-    /// it. Its class is the library's own, so a host connects by name:
+    /// The widget has a signal settingsChanged(), sent after each change of the settings, whatever
+    /// the cause. Its class is internal to the library, so a host connects by name:
     ///
     ///     connect(inspector, SIGNAL(settingsChanged()), this, SLOT(updatePreview()));
     ///
@@ -110,7 +110,7 @@ class TIV_ECHOTABLE_EXPORT EchoData : public QObject {
     /// \returns the lines in the program's order, without line ends; none for a program without options.
     std::vector<QString> getTELINP(bool defaultsOnly, bool extensive, int language);
 
-    /// What a host stores, and hands to insertXMLData() another time. (sic: it is no XML.)
+    /// The settings, for the host to store and to pass to insertXMLData() later. (sic: it is not XML.)
     /// \returns one base64 line closed by a line feed, "CgAA\n" with every option at its program's
     ///     default; a null string for a program without options.
     QString getXMLData();

@@ -1,4 +1,4 @@
-// Turns a record's description into property definitions. The options builders call it once per table:
+// Turns a record's description into property definitions. Called once for each record:
 //
 //     fromBond(recordAccess<esk::Data>(), properties);    // "prop.full" "prop.grp" "prop.load" ...
 //
@@ -9,7 +9,7 @@
 //     Editor           text, becomes "editor.kind", also over an enumeration's list editor
 //     ColumnWidth      text; absent: none
 //     PropertyWeight   whole 32-bit number, optional sign; absent: 0
-//     Precision        as std::stoi reads it; absent or refused by it: none
+//     Precision        as std::stoi reads it; absent or invalid: none
 //
 // Settings written:
 //     validator.precision editor.validator.precision                             the field has a Precision

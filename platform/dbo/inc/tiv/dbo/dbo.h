@@ -1,6 +1,6 @@
 /// \file
 /// The project database: which kinds of element a model holds, and the host's analysis tasks. Echo tables
-/// ask it which of their options apply; the host keeps their settings strings in it.
+/// read from it which kinds there are; the host stores their settings strings in it.
 ///
 ///     const int database = createProject("bridge.tiv", {1200, 0, 96, 0, 24});
 ///     hasQuads(database, nullptr);                             // true
@@ -23,8 +23,8 @@
 ///
 /// A change is written in one transaction, so a killed program leaves the file as it was before or after it.
 /// Calls that change a project throw "<path>: no such file" or "<path>: the file was replaced" when the
-/// project was deleted, moved or replaced since it was opened. What it held can still be read then. (Windows
-/// does none of the three to an open file.)
+/// project was deleted, moved or replaced since it was opened. What it held can still be read then. (On
+/// Windows, an open file cannot be deleted, moved or replaced.)
 #pragma once
 
 #if (defined(_MSVC_LANG) ? _MSVC_LANG : __cplusplus) < 201703L
@@ -156,7 +156,7 @@ TIV_DBO_EXPORT bool removeTask(int database, const std::string& name);
 ///     task   | -     | removes it
 struct TaskChange {
     std::optional<Task> before;  ///< the task as the caller read it
-    std::optional<Task> after;   ///< as it is to be
+    std::optional<Task> after;   ///< the task as it is to be stored
 };
 
 /// Makes all changes in one transaction, or none of them. Tasks may exchange their names.

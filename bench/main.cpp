@@ -47,7 +47,7 @@ void measure(const bench::Holding& holding) {
     std::printf("%s: bytes kept\t%zu\n", holding.name.c_str(), (after - before) / kept);
 }
 
-// In bytes, the most that this process has ever used.
+// The most memory that this process has used so far, in bytes.
 long mostMemory() {
     rusage usage{};
     getrusage(RUSAGE_SELF, &usage);
@@ -76,7 +76,7 @@ int main(int argc, char** argv) {
     const char* mode = argc > 1 ? argv[1] : "";
     const char* only = argc > 2 ? argv[2] : "";
     if (std::strcmp(mode, "--memory") == 0) {
-        mallopt(M_MMAP_THRESHOLD, 128 * 1024);  // and not adapted: images of windows are never counted
+        mallopt(M_MMAP_THRESHOLD, 128 * 1024);  // fixed, so that images of windows are never counted
         for (const auto& operation : bench::peaks()) measurePeak(operation);
         for (const auto& holding : bench::holdings()) measure(holding);
     } else if (std::strcmp(mode, "--count") == 0) {

@@ -29,7 +29,7 @@ struct Holding {
 
 // The operations of this program.
 std::vector<Operation> operations();
-std::vector<Operation> peaks();  // measured by the memory that one run needs at its peak
+std::vector<Operation> peaks();  // the memory that one run needs at its peak is measured
 std::vector<Holding> holdings();
 
 }  // namespace bench

@@ -1,4 +1,4 @@
-// The same work as an application does it without the library.
+// The same work without the library, with plain Qt.
 #include "bench/peer_view.h"
 #include "bench/rooms.h"
 

@@ -16,7 +16,7 @@ auto opens(int elements) {
     };
 }
 
-auto asks(int elements) {
+auto queries(int elements) {
     return [=](int) -> Work {
         const int database = openProject(projectFile(elements));
         return [=] {
@@ -33,7 +33,7 @@ std::vector<Operation> projectOperations() {
     for (const int elements : {10, 100'000, 10'000'000}) {
         const std::string of = ", " + std::to_string(elements) + " elements";
         result.push_back({"open and close a project" + of, opens(elements)});
-        result.push_back({"five queries" + of, asks(elements)});
+        result.push_back({"five queries" + of, queries(elements)});
     }
     return result;
 }

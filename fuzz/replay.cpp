@@ -1,4 +1,4 @@
-// Feeds the files of a folder to a fuzz target, and names each one first, so that a crash has its name, too:
+// Feeds the files of a folder to a fuzz target. Prints the name of each file first, so that it precedes a crash:
 //
 //     fuzz_codec fuzz/corpus/codec
 #include "fuzz/target.h"

@@ -1,5 +1,5 @@
-// Settings strings of unknown origin, as a host hands them over. The first byte's low four bits are the
-// program type (those above the last one do not exist), its high four bits, taken modulo three, are the form of the rest:
+// Settings strings of unknown origin, as a host inserts them. The first byte's low four bits are the program type
+// (those above the last one do not exist), its high four bits, taken modulo three, are the form of the rest:
 //
 //     3ChAGAAA=    0: the text in UTF-8
 //     C<bytes>     1: the bytes that base64 encodes

@@ -1,4 +1,4 @@
-// A fuzz target is one function that takes any bytes and neither crashes nor lets an exception out. The comment
+// A fuzz target is one function that takes any bytes and never crashes or throws. The comment
 // at its head describes the format of the bytes. `./dev fuzz` links it with an engine that generates them;
 // otherwise replay.cpp feeds it the files of fuzz/corpus/<target>, as a test.
 //

@@ -4,7 +4,10 @@
 #include "echo/schema/esk.h"
 #include "echo/src/internal_data.h"
 #include "inspector/host.h"
+#include "properties/qt/inc/nextgen/from_bond.h"
+#include "properties/qt/src/editors.h"
 #include "properties/qt/src/qt_inspector_widget.h"
+#include "support/every_type.h"
 #include "support/printing.h"
 #include "tiv/echo/echo_data.h"
 
@@ -312,6 +315,47 @@ TEST(Inspector, ShowsWhatItsHostDoesWithTheModel) {
     driver.choose("Loads", "No output");
     EXPECT_EQ(driver.row("Loads"), "No output*");
     EXPECT_EQ(driver.message(), "");
+}
+
+TEST(Inspector, EditsFieldsOfEveryTypeInOrderOfWeightUnderTheirCategories) {
+    const auto properties = std::make_shared<tiv::properties::Properties>();
+    const auto model = std::make_shared<tiv::container::model::Model>();
+    const auto selection = std::make_shared<tiv::properties::SelectionManager<tiv::container::model::Key>>();
+    const auto& record = tiv::properties::recordAccess<EveryType>();
+    tiv::properties::fromBond(record, *properties);
+    tiv::container::model::Transaction transaction(*model);
+    record.insertDefault(transaction, 0);
+    transaction.end();
+    QtInspectorWidget widget(nullptr, properties, selection, model,
+        std::make_shared<tiv::properties::DefaultEditorFactory>(),
+        std::make_shared<tiv::properties::DefaultValidatorFactory>());
+    Driver driver(&widget);
+    EXPECT_EQ(driver.rows(), QStringList());
+    selection->select(0);
+    const QStringList ordered{"General=*", "Width=0", "Yes=true", "Big=0", "Factor=0.5",
+        "Name=", "Level=DEFAULT_OUTPUT", "Construction Stages=DEFAULT_OUTPUT", "Groups=DEFAULT_OUTPUT",
+        "Loadcases=DEFAULT_OUTPUT", "General=*", "Small=0"};
+    EXPECT_EQ(driver.rows(), ordered);
+    EXPECT_EQ(driver.tip("Yes"), "Yes\nWhether it is on\nDefault: true");
+    const char* const rows[][4] = {
+        {"Width", "1.25", "1.25*", ""},
+        {"Width", "1.255", "1.25*", "Not a number of at most 2 decimal places: Width"},
+        {"Factor", "half", "0.5", "Not changed: Conversion failed."},
+        {"Name", "a b", "a b*", ""},
+        {"Small", "-128", "-128*", ""},
+        {"Level", "FULL_OUTPUT", "DEFAULT_OUTPUT", "Not offered for: Level"},
+        {"Yes", " ", "false*", ""},
+    };
+    for (const auto& [label, typed, shown, message] : rows) {
+        driver.click(label);
+        driver.type(typed);
+        driver.key(Qt::Key_Return);
+        EXPECT_EQ(driver.row(label), shown) << label;
+        EXPECT_EQ(driver.message(), message) << label;
+    }
+    driver.key(Qt::Key_F, Qt::ControlModifier);
+    driver.type("ma");
+    EXPECT_EQ(driver.rows(), (QStringList{"General=*", "Small=-128*"}));
 }
 
 // The room for the text of a cell; that of a value ends before its arrow.

@@ -291,7 +291,9 @@ QSize PropertyView::sizeFor(int lines, int width) const {
     return {width + frame, header()->sizeHint().height() + lines * lineHeight_ + frame};
 }
 
+// A Return that ends the editing of a text arrives here, too, as a line edit leaves it to its parent.
 void PropertyView::editRow(const QModelIndex& index) {
+    if (state() == EditingState) return;
     const QModelIndex value = index.siblingAtColumn(valueColumn);
     if (value.flags() & Qt::ItemIsEditable && !isRowHidden(value.row(), {})) edit(value);
 }

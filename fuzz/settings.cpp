@@ -12,7 +12,6 @@
 
 #include <QStringList>
 
-#include <array>
 #include <cstring>
 #include <string>
 
@@ -21,29 +20,11 @@ namespace {
 using fuzz::require;
 using tiv::echo::EchoData;
 
-struct Table {
-    EchoData* echo;
-    QString defaults, start;  // settings; each input meets those of `start`
-};
-
-// One for each program type, used for all inputs. The project has every kind of element, so that every option
-// applies.
-const std::array<Table, 16>& tables() {
-    static const std::array<Table, 16> tables = [] {
-        // An unknown program type and a level without a keyword are reported, both often.
-        tiv::smartassert::setReporter([](const tiv::smartassert::Report&) {});
-        const int database = tiv::dbo::createProject(":memory:", {1, 1, 1, 1, 1});
-        std::array<Table, 16> made;
-        for (std::size_t type = 0; type < made.size(); ++type) {
-            auto* echo = new EchoData(static_cast<EchoData::ProgrammTypes>(type), database);
-            const QString defaults = echo->getXMLData();
-            echo->insertXMLData(R"({"prop":{"0":3,"2":4}})");
-            made[type] = {echo, defaults, echo->getXMLData()};
-            require(defaults.isNull() == (made[type].start == defaults), "the start is the defaults");
-        }
-        return made;
-    }();
-    return tables;
+// A project with every kind of element, so that every option applies.
+int project() {
+    // An unknown program type and a level without a keyword are reported, both often.
+    tiv::smartassert::setReporter([](const tiv::smartassert::Report&) {});
+    return tiv::dbo::createProject(":memory:", {1, 1, 1, 1, 1});
 }
 
 QString textOf(unsigned form, const std::string& bytes) {
@@ -64,21 +45,25 @@ bool canInsert(EchoData& echo, const QString& text) try {
 }  // namespace
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    static const int database = project();
     if (size == 0) return 0;
-    const auto& [echo, defaults, start] = tables()[*data & 0xF];
+    EchoData echo(static_cast<EchoData::ProgrammTypes>(*data & 0xF), database);
     const QString text = textOf((*data >> 4) % 3, {data + 1, data + size});
 
-    require(start.isNull() || canInsert(*echo, start), "the start is refused");
-    const bool isRead = canInsert(*echo, text);
-    const QString settings = echo->getXMLData();
+    const QString defaults = echo.getXMLData();
+    require(canInsert(echo, R"({"prop":{"0":3,"2":4}})"), "the start is refused");
+    const QString start = echo.getXMLData();
+    require(defaults.isNull() == (start == defaults), "the start is the defaults");
+    const bool isRead = canInsert(echo, text);
+    const QString settings = echo.getXMLData();
     require(isRead || settings == start, "a text that was refused has changed the settings");
     const auto lines = text.split('\n', Qt::SkipEmptyParts).size();
     require(!isRead || lines == 1 || settings == defaults, "the text is no single record, yet was kept");
     if (settings == start) return 0;
 
-    const auto telinp = echo->getTELINP(false, false, 1);
-    require(canInsert(*echo, {}) && canInsert(*echo, settings), "settings that were given are refused");
-    require(echo->getXMLData() == settings, "settings change when they are read again");
-    require(echo->getTELINP(false, false, 1) == telinp, "other lines when read again");
+    const auto telinp = echo.getTELINP(false, false, 1);
+    require(canInsert(echo, {}) && canInsert(echo, settings), "settings that were given are refused");
+    require(echo.getXMLData() == settings, "settings change when they are read again");
+    require(echo.getTELINP(false, false, 1) == telinp, "other lines when read again");
     return 0;
 }

@@ -1,5 +1,5 @@
-// What the codec makes of texts and bytes: of the settings records, as recorded from the reference library,
-// and of a record that shows the rest: other types, attributes and limits.
+// Decodes and encodes the rows of two tables: settings records, as recorded from the reference library, and a record
+// with the other types, attributes and limits.
 #include "bond/compact_binary.h"
 #include "bond/exceptions.h"
 #include "bond/simple_json.h"
@@ -29,7 +29,7 @@ QString hex(const bond::Bytes& bytes) {
     return QByteArray(reinterpret_cast<const char*>(bytes.data()), int(bytes.size())).toHex();
 }
 
-// A cell of the table, in which "(0a*62)" stands for 62 times "0a".
+// Expands a cell of the table: "(0a*62)" stands for 62 times "0a".
 QString expanded(QString cell) {
     static const QRegularExpression repeated(R"(\((.+?)\*(\d+)\))");
     for (auto group = repeated.match(cell); group.hasMatch(); group = repeated.match(cell))
@@ -69,8 +69,7 @@ TEST(Codec, AnswersAsTheReferenceLibraryAndWithinItsLimits) {
             } catch (const bond::StreamException& e) {
                 output = QString("stream: ") + e.what();
             }
-            EXPECT_TRUE(output == expanded(row[3])) << row.join('\t').toStdString() << '\n'
-                                                    << output.left(999).toStdString();
+            EXPECT_TRUE(output == expanded(row[3])) << row.join('\t') << '\n' << output.left(999);
         }
     }
 }

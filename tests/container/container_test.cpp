@@ -31,7 +31,7 @@ TEST(BothModels, AgreeInRandomSequencesThoughMemoryRunsOut) {
     EXPECT_GT(failures, 9000);
 }
 
-TEST(Container, SaysWhyItRefusesAndStaysAsItWas) {
+TEST(Container, ReportsMisuseAndStaysUnchanged) {
     Model model;
     put(model, 0, 7);
     ObjectHandle<int> orphan, dropped;
@@ -51,6 +51,7 @@ TEST(Container, SaysWhyItRefusesAndStaysAsItWas) {
         for (const Key& key : {Key(1), Key(std::nan(""))})
             EXPECT_EQ(failureOf([&] { transaction.insert(key, 1); }), "Key already exists.");
         transaction.erase(1);
+        EXPECT_FALSE(model.contains(1));
         EXPECT_EQ(failureOf([&] { transaction.erase(1); }), "Unknown key.");
         transaction.insert(1, std::string("one"));
         EXPECT_EQ(failureOf([&] { dropped.modify(); }), "Trying to access erased object.");
@@ -68,7 +69,7 @@ TEST(Container, SaysWhyItRefusesAndStaysAsItWas) {
     EXPECT_EQ(model.keys(), Keys{0});
 }
 
-TEST(Rollback, DestroysWhatItRemovesOnceTheModelIsAsItWas) {
+TEST(Rollback, DestroysRemovedObjectsAfterTheModelIsRestored) {
     Model model;
     Keys seen;
     put(model, 0, 7);
@@ -85,7 +86,7 @@ TEST(Rollback, DestroysWhatItRemovesOnceTheModelIsAsItWas) {
     EXPECT_EQ(model.keys(), (Keys{0, 2, 3}));
 }
 
-TEST(Key, OfAnotherTypeIsAnotherKeyAndTextIsText) {
+TEST(Key, DiffersByTypeAndKeepsTextAsString) {
     std::string text = "0";
     const Keys keys{text, 0, 0U, 0.0, Key(std::in_place, std::pair(0, 0)), 1, std::string_view("0")};
     text = "1";
@@ -97,7 +98,7 @@ TEST(Key, OfAnotherTypeIsAnotherKeyAndTextIsText) {
     EXPECT_EQ(std::hash<Key>()(keys[0]), std::hash<Key>()(keys[6]));
 }
 
-TEST(Observers, AreCalledOnceInOrderAndMayComeAndGoAndRunTransactions) {
+TEST(Observers, AreCalledOnceInOrderAndMayConnectDisconnectAndRunTransactions) {
     Model model;
     Keys seen;
     boost::signals2::connection first, second;

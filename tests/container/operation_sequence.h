@@ -1,10 +1,10 @@
-// A model driven by bytes beside a naive one, a std::map that is copied when a transaction is opened.
-// Called by the container test with random bytes, and by the fuzzer.
+// Runs operations, encoded as bytes, on a Model and on a naive model: a std::map that is copied when a transaction
+// begins. Called by the container test with random bytes, and by the fuzzer.
 //
-//     runOperations(std::vector<std::uint8_t>{0x00, 0x0c, 0x04});   // open, insert under the key 0, end
+//     runOperations(std::vector<std::uint8_t>{0x00, 0x0c, 0x04});   // begin, insert under the key 0, end
 //
-// A byte is an operation: bits 0-1 the key, bits 2-4 what is done, bits 5-7 the point at which memory runs
-// out (0: it does not).
+// A byte is an operation: bits 0-1 are the key, bits 2-4 the operation, bits 5-7 the number of the allocation that
+// fails (0: none).
 #pragma once
 
 #include "properties/container/transaction.h"
@@ -23,16 +23,15 @@ namespace test {
 
 namespace model = tiv::container::model;
 
-inline int fuse = 0;  // burns down to 0 and throws; 0: not lit
+inline int allocationsLeft = 0;  // until one fails; 0: none fails
 
-// A point at which memory can run out.
-inline void burn() {
-    if (fuse > 0 && --fuse == 0) throw std::bad_alloc();
+inline void countAllocation() {
+    if (allocationsLeft > 0 && --allocationsLeft == 0) throw std::bad_alloc();
 }
 
 struct Value {
     explicit Value(int n) : content(n, n) { ++alive; }
-    Value(const Value& other) : content(other.content) { burn(), ++alive; }
+    Value(const Value& other) : content(other.content) { countAllocation(), ++alive; }
     Value(Value&& other) noexcept : content(other.content) { ++alive; }
     Value& operator=(Value&&) noexcept = default;
     ~Value() { --alive; }
@@ -55,11 +54,11 @@ struct BothModels {
         if (!holds) throw std::logic_error("operation " + std::to_string(step) + ": " + otherwise);
     }
 
-    // Whether the operation was done. Refused or out of memory, it must have had no effect.
+    // Returns whether the operation was done.
     template <class Operation>
-    bool done(int fuseLength, bool allowed, Operation operation) {
+    bool done(int failing, bool allowed, Operation operation) {
         bool refused = false;
-        fuse = fuseLength;
+        allocationsLeft = failing;
         try {
             operation();
         } catch (const std::bad_alloc&) {
@@ -67,38 +66,38 @@ struct BothModels {
         } catch (const std::runtime_error&) {
             refused = true;
         }
-        fuse = 0;
+        allocationsLeft = 0;
         require(refused != allowed, refused ? "refused" : "not refused");
         return allowed;
     }
 
-    void operate(int operation, const model::Key& key, int length) {
+    void operate(int operation, const model::Key& key, int failing) {
         const bool open = transaction != nullptr, present = naive.count(key) != 0;
         if (operation == 0) {
             const auto begin = [&] { transaction = std::make_unique<model::Transaction>(real); };
-            if (done(length, !open, begin)) committed = naive;
+            if (done(failing, !open, begin)) committed = naive;
         } else if (operation == 1 && open) {
-            if (done(length, true, [&] { transaction->end(); })) transaction.reset();
+            if (done(failing, true, [&] { transaction->end(); })) transaction.reset();
         } else if (operation == 2 && open) {
             naive = committed, transaction.reset();
         } else if (operation == 3 && open) {
-            if (done(length, !present, [&] { transaction->insert(key, Value(step)); }))
+            if (done(failing, !present, [&] { transaction->insert(key, Value(step)); }))
                 naive[key] = {step, step};
         } else if (operation == 4 && open) {
-            if (done(length, present, [&] { transaction->erase(key); })) naive.erase(key);
+            if (done(failing, present, [&] { transaction->erase(key); })) naive.erase(key);
         } else if (operation == 5) {
-            if (done(length, present, [&] { handles[key] = real.handle<Value>(key); }))
+            if (done(failing, present, [&] { handles[key] = real.handle<Value>(key); }))
                 handled[key] = naive[key].first;
         } else if (operation > 5) {
             const bool current = open && present && naive[key].first == handled[key];
-            if (done(length, current, [&] { handles[key].modify().content.second = step; }))
+            if (done(failing, current, [&] { handles[key].modify().content.second = step; }))
                 naive[key].second = step;
         }
     }
 
     // Applies the reports as a view does. Each must change something.
     void report(const model::Changes& changes) {
-        fuse = 0;
+        allocationsLeft = 0;
         for (const auto& key : changes.created)
             require(reported.emplace(key, real.read<Value>(key).content).second, "created twice");
         for (const auto& key : changes.modified) {
@@ -112,13 +111,13 @@ struct BothModels {
         Content content;
         for (const auto& key : real.keys())
             content.emplace_hint(content.end(), key, real.read<Value>(key).content);
-        require(content == naive, "another content");
-        require(transaction || reported == naive, "not what was reported");
-        require(transaction || Value::alive == static_cast<int>(naive.size()), "objects are left over");
+        require(content == naive, "the content differs");
+        require(transaction || reported == naive, "the reports differ");
+        require(transaction || Value::alive == static_cast<int>(naive.size()), "objects leak");
     }
 };
 
-// How many operations ran out of memory. Throws std::logic_error where the models disagree.
+// Returns how many operations ran out of memory. Throws std::logic_error when the models differ.
 inline int runOperations(std::span<const std::uint8_t> bytes) {
     const model::Key keys[] = {0, 1, "0", 0.5};
     BothModels both;

@@ -56,10 +56,11 @@ TEST(SettingsString, IsReadAsAWholeAndReportedOnceOrChangesNothing) {
 TEST(EchoData, TranslatesEveryLabelCommentAndLevel) {
     QStringList sources{"Default output", "No output", "Normal output", "Full output", "Extensive output",
         "no output of text lists", "extensive output of text lists"};
-    for (const ExpectedOption& o : expectedOptions()) sources << o.label << o.comment;
+    for (const int type : {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 13})
+        for (const ExpectedOption& o : expectedOptions(type)) sources << o.label << o.comment;
     setGerman(true);
     for (const QString& source : sources)
-        EXPECT_NE(EchoData::tr(source.toUtf8().constData()), source) << source.toStdString();
+        EXPECT_NE(EchoData::tr(source.toUtf8().constData()), source) << source;
     EXPECT_EQ(EchoData::tr("no such text"), "no such text");
     setGerman(false);
     EXPECT_EQ(EchoData::tr("Loads"), "Loads");

@@ -5,20 +5,12 @@
 
 namespace test {
 
-const std::vector<ExpectedOption>& expectedOptions() {
-    static const std::vector<ExpectedOption> all = [] {
-        std::vector<ExpectedOption> rows;
-        for (const QStringList& c : table("programs.tsv"))
-            rows.push_back({c[0].toInt(), c[1], c[2].toInt(), c[3], c[4], c[5], c[6], c[7], c[8], c[9]});
-        return rows;
-    }();
-    return all;
-}
-
 std::vector<ExpectedOption> expectedOptions(int type) {
+    static const std::vector<QStringList> rows = table("programs.tsv");
     std::vector<ExpectedOption> result;
-    for (const ExpectedOption& option : expectedOptions())
-        if (option.type == type) result.push_back(option);
+    for (const QStringList& c : rows)
+        if (c[0].toInt() == type)
+            result.push_back({c[1], c[2].toInt(), c[3], c[4], c[5], c[6], c[7], c[8], c[9]});
     return result;
 }
 

@@ -1,5 +1,4 @@
-// What every option of every program is, as data/programs.tsv states it: written down on its own, not
-// taken from the library's tables.
+// The options of every program as data/programs.tsv states them, independently of the library's tables.
 #pragma once
 
 #include <QString>
@@ -10,17 +9,16 @@
 namespace test {
 
 struct ExpectedOption {
-    int type;  // program type
     QString field;
     int byDefault;  // level in a new record
     QString label;
     QString english, german, comment;
     QString needs;    // "beams", "quads", "springs" or "-"
-    QString shown;    // the key under which the inspector may show it; "-": never
-    QString offered;  // the levels offered, one digit each
+    QString shown;    // its key in the inspector; "-": never shown
+    QString offered;  // levels, one digit each
 };
 
-const std::vector<ExpectedOption>& expectedOptions();
+// Those of a program type.
 std::vector<ExpectedOption> expectedOptions(int type);
 
 // The settings in JSON form with the given level for each option.

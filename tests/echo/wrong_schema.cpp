@@ -1,4 +1,4 @@
-// Does not compile: each record has a fault whose message a developer must be able to read.
+// Must not compile: each record has a fault, and the compiler must print its message.
 #include "echo/src/program_data.h"
 
 namespace tiv::echo::data {

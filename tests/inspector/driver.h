@@ -1,4 +1,4 @@
-// Drives an inspector as an engineer does, with mouse and keys, and reads from it what an engineer sees.
+// Operates an inspector with mouse and keys, and reads what it shows.
 #pragma once
 
 #include "support/session.h"
@@ -13,7 +13,7 @@
 
 namespace test {
 
-// Those of a menu.
+// The texts of a menu's entries.
 QString texts(const QMenu& menu);
 
 class Driver {

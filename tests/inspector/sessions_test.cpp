@@ -1,4 +1,4 @@
-// Plays the sessions of sessions.txt: what an engineer does with an inspector, and what is then seen.
+// Plays the sessions of sessions.txt.
 #include "inspector/host.h"
 #include "support/session.h"
 
@@ -54,7 +54,7 @@ void clickOutside() {
     QTest::mouseClick(host->driver->list()->window(), Qt::LeftButton, {}, {-9, -9});
 }
 
-// While the list is open: the list receives the click.
+// Clicks the cell while the list is open, which receives the click.
 void clickAgain(const QString& label) {
     auto* popup = host->driver->list()->window();
     const QPoint cell = host->driver->view->viewport()->mapToGlobal(host->driver->cell(label, 1).center());
@@ -89,7 +89,7 @@ void menu(const QString& entry) {
     host->driver->clickMenu(entry);
 }
 
-// What an entry of the menu shows: its entries or its keys.
+// The entries or the keys that an entry of the menu shows.
 QString menuEntry(const QString& entry) {
     host->driver->openMenu();
     const QAction* action = host->driver->menuEntry(entry);
@@ -109,6 +109,7 @@ const Does does{
     {"click-label", [](const Words& w) { host->driver->click(w.all, 0); }},
     {"ctrl-click", [](const Words& w) { host->driver->click(w.all, 0, Qt::ControlModifier); }},
     {"ctrl-click-value", [](const Words& w) { host->driver->click(w.all, 1, Qt::ControlModifier); }},
+    {"shift-click-value", [](const Words& w) { host->driver->click(w.all, 1, Qt::ShiftModifier); }},
     {"click-reset", [](const Words& w) { host->driver->click(w.all, 2); }},
     {"menu", [](const Words& w) { menu(w.all); }},
     {"open-menu", [](const Words&) { host->driver->openMenu(); }},
@@ -160,7 +161,7 @@ const Sees sees{
     {"host-keys", [](const Words&) { return std::exchange(hostKeys, {}).join('|'); }},
 };
 
-// Its keys are not those of Windows: the inspector adds Ctrl+Y itself.
+// Unlike Windows, it has no Ctrl+Y: the inspector adds that itself.
 struct Gnome : QPlatformTheme {
     QVariant themeHint(ThemeHint hint) const override {
         return hint == KeyboardScheme ? QVariant(GnomeKeyboardScheme) : QPlatformTheme::themeHint(hint);
@@ -175,7 +176,9 @@ TEST_P(InspectorSession, IsAsWritten) {
     play(GetParam(), does, sees);
     QGuiApplicationPrivate::platform_theme = theme;
     setGerman(false);
+    EXPECT_TRUE(host->window.findChildren<QMenu*>().isEmpty()) << "menus are gone when they are closed";
     host.reset();
+    EXPECT_EQ(QApplication::allWidgets(), QWidgetList()) << "nothing is left";
 }
 
 INSTANTIATE_TEST_SUITE_P(

@@ -40,7 +40,7 @@ class Project : public testing::Test {
  protected:
     ~Project() override { closeProject(database); }
     std::string file(const char* name) const { return folder.filePath(name).toStdString(); }
-    // As another program would; the lock it takes ends with the returned connection.
+    // Runs SQL as another program would. Its lock lasts as long as the connection that is returned.
     std::shared_ptr<sqlite3> execute(const std::string& name, const std::string& sql) const {
         sqlite3* connection = nullptr;
         sqlite3_open(name.c_str(), &connection);
@@ -62,7 +62,7 @@ TEST_F(Project, isCreatedOnlyWhereNoFileIsAndOpenedOnlyFromAProjectFile) {
         int (*call)(const std::string&);
         std::string path;
         const char* reason;
-        std::string sql;  // first done to a copy of the project, of that name
+        std::string sql;  // first run on a copy of the project, of that name
     } rows[] = {
         {createProject, "", "no file name", ""},
         {createProject, path, "already exists", ""},
@@ -121,7 +121,7 @@ TEST_F(Project, keepsElementsAndTasksInOrderAndByteForByte) {
     storeTask(database, {"b", 4, odd});
     const int again = openProject(empty);
     addElements(again, ElementKind::Beams, 1);
-    EXPECT_TRUE(hasBeams(database, nullptr)) << "seen by everyone who has the project open";
+    EXPECT_TRUE(hasBeams(database, nullptr)) << "through every handle";
     closeProject(std::exchange(database, again));
     EXPECT_EQ(
         contentOf(again), "+5 -0 +1 +7 +2147483647 [b|4|" + odd + "][a|12|][" + odd + "|-1|" + odd + "]");
@@ -139,7 +139,7 @@ TEST_F(Project, keepsElementsAndTasksInOrderAndByteForByte) {
     EXPECT_EQ(contentOf(again), "+5 -0 +1 +7 +2147483647 [b|4|" + odd + "][" + odd + "|-1|" + odd + "]");
 }
 
-TEST_F(Project, fromElsewhereShowsItsTextsAndRunsNoTrigger) {
+TEST_F(Project, fromAnotherProgramShowsItsTextsAndRunsNoTrigger) {
     execute(file("wide"), R"(PRAGMA encoding = 'UTF-16'; PRAGMA application_id = 1414092368;
         PRAGMA user_version = 1; CREATE TABLE elements(kind INTEGER PRIMARY KEY, count);
         INSERT INTO elements VALUES (0, 1), (1, 1), (2, 1), (3, 1), (4, 1);
@@ -162,7 +162,8 @@ TEST_F(Project, changesAllTasksOrNone) {
         {{{a, d}, {Task{"b", 2, "old"}, b}}, "[a|1|A][b|2|B][c|3|C]", {"b"}},
         {{{a, d}, {Task{"b", 7, "B"}, b}}, "[a|1|A][b|2|B][c|3|C]", {"b"}},
         {{{b, {}}, {a, c}, {d, {}}, {{}, c}}, "[a|1|A][b|2|B][c|3|C]", {"d", "c", "c"}},
-        {{{{}, d}, {a, Task{"b", 1, "A"}}, {b, Task{"a", 2, "B"}}, {c, {}}}, "[b|1|A][a|2|B][d|4|D]", {}},
+        {{{{}, d}, {a, Task{"c", 1, "A"}}, {c, Task{"a", 3, "C"}}}, "[c|1|A][b|2|B][a|3|C][d|4|D]", {}},
+        {{{b, {}}}, "[c|1|A][a|3|C][d|4|D]", {}},
     };
     for (const auto& row : rows) {
         EXPECT_EQ(changeTasks(database, row.changes), row.conflicts);

@@ -1,4 +1,4 @@
-// The library's catalogue in a program that loads the library while it runs.
+// The library's catalogue, in a program that loads the library at run time.
 #include "support/printing.h"
 #include "support/session.h"
 
@@ -32,7 +32,7 @@ struct OwnWords : QTranslator {
 TEST(Catalogue, FollowsTheLanguagesOfTheApplicationBehindTheTranslatorsOfTheHost) {
     test::setGerman(true);
     QLibrary library(TIV_LIBRARY);
-    ASSERT_TRUE(library.load()) << library.errorString().toStdString();
+    ASSERT_TRUE(library.load()) << library.errorString();
     EXPECT_EQ(shown("Loads"), "Lasten") << "at once, from the library itself";
     test::setGerman(false);
     EXPECT_EQ(shown("Loads"), "Loads");
@@ -49,8 +49,8 @@ TEST(Catalogue, FollowsTheLanguagesOfTheApplicationBehindTheTranslatorsOfTheHost
     test::setGerman(false);
 }
 
-#if defined(Q_OS_UNIX)  // where the environment holds the languages
-TEST(Catalogue, IsThatOfTheMostWantedLanguage) {
+#if defined(Q_OS_UNIX)  // where the environment lists the languages
+TEST(Catalogue, IsThatOfTheMostPreferredLanguage) {
     const char* const rows[][2] = {
         {"en:de", "Loads"}, {"de:en", "Lasten"}, {"nl:en:de", "Loads"}, {"nl:de", "Lasten"}};
     const auto print = [] {
@@ -59,7 +59,7 @@ TEST(Catalogue, IsThatOfTheMostWantedLanguage) {
         std::_Exit(0);
     };
     const QByteArray before = qgetenv("LANGUAGE");
-    GTEST_FLAG_SET(death_test_style, "threadsafe");  // a new process, as Qt reads LANGUAGE once
+    GTEST_FLAG_SET(death_test_style, "threadsafe");  // in a new process: Qt reads LANGUAGE once
     for (const auto& [languages, expected] : rows) {
         qputenv("LANGUAGE", languages);
         EXPECT_EXIT(print(), testing::ExitedWithCode(0), expected) << languages;
@@ -82,7 +82,7 @@ TEST(Catalogue, OfAThirdLanguageIsAFileBesideTheLibraryOrInItsShareFolder) {
         ASSERT_TRUE(QFile::copy(TIV_FRENCH, installed.path() + '/' + folder + "/tiv_echotable_dll_fr.qm"));
         QLocale::setDefault(QLocale(QLocale::French));
         QLibrary library(path);
-        ASSERT_TRUE(library.load()) << library.errorString().toStdString();
+        ASSERT_TRUE(library.load()) << library.errorString();
         EXPECT_EQ(shown("Loads"), "Charges") << place;
         EXPECT_EQ(shown("Groups"), "Groups") << "a text that the file lacks";
     }

@@ -5,7 +5,7 @@
 namespace tiv::smartassert {
 namespace {
 
-// What a report writes to stderr while `reporter` is set.
+// Returns what a report writes to stderr while `reporter` is set.
 std::string errorOutput(Reporter reporter) {
     const Reporter recorder = setReporter(std::move(reporter));
     testing::internal::CaptureStderr();
@@ -14,7 +14,7 @@ std::string errorOutput(Reporter reporter) {
     return testing::internal::GetCapturedStderr();
 }
 
-TEST(SmartAssert, goesToStderrWhereNoReporterTakesIt) {
+TEST(SmartAssert, goesToStderrUnlessAReporterTakesIt) {
     constexpr const char* line = "some/source:7: assertion failed: 0 && \"text\"\n";
     EXPECT_EQ(errorOutput({}), line);
     EXPECT_EQ(errorOutput([](const Report&) { throw 1; }), line);

@@ -1,5 +1,5 @@
-// A record with a field of every type and every attribute, most of which no settings record has. For the tests
-// of the codec and of the property definitions.
+// A record with fields of every type and attribute, most of which no settings record has. For the tests of the codec,
+// the property definitions and the inspector.
 #pragma once
 
 #include "echo/schema/kst.h"

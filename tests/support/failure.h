@@ -1,4 +1,4 @@
-// What a call throws, for rows of failures:
+// The text of the exception that a call throws:
 //
 //     EXPECT_EQ(failureOf([&] { transaction.erase(1); }), "Unknown key.");
 #pragma once
@@ -8,7 +8,7 @@
 
 namespace test {
 
-// The text of the exception; empty when nothing was thrown. Other exceptions pass.
+// Returns an empty text when nothing was thrown. Exceptions of other types pass.
 template <class Exception = std::runtime_error, class Call>
 std::string failureOf(Call call) {
     try {

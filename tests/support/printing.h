@@ -1,16 +1,14 @@
-// Failure messages show Qt's texts as texts.
+// Prints Qt's texts in failure messages.
 #pragma once
 
-#include <QByteArray>
 #include <QString>
-#include <QStringList>
 
 #include <ostream>
 
-inline void PrintTo(const QString& text, std::ostream* out) {
-    *out << (text.isNull() ? "null" : '"' + text.toStdString() + '"');
+inline std::ostream& operator<<(std::ostream& out, const QString& text) {
+    return out << (text.isNull() ? "null" : '"' + text.toStdString() + '"');
 }
 
-inline void PrintTo(const QStringList& texts, std::ostream* out) {
-    for (const QString& text : texts) *out << "\n    " << text.toStdString();
+inline void PrintTo(const QString& text, std::ostream* out) {  // otherwise as a list of characters
+    *out << text;
 }

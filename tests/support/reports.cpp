@@ -9,7 +9,7 @@ namespace {
 
 Reports recorded;
 
-// Records reports during a test and lets no unexpected one pass.
+// Fails a test for each report that it did not take.
 class ReportListener : public testing::EmptyTestEventListener {
     void OnTestStart(const testing::TestInfo&) override { recorded.clear(); }
     void OnTestEnd(const testing::TestInfo&) override {

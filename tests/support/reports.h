@@ -1,5 +1,4 @@
-// Assertion reports are part of what a test expects: a test fails with any report that it did not take.
-
+// Assertion reports during a test. A report that the test does not take is a failure.
 //
 //     makeInternalData(1000, db);
 //     EXPECT_EQ(takeReports(), Reports({R"(0 && "invalid prog_type" at echo/src/internal_data:120)"}));

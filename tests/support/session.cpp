@@ -10,8 +10,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 namespace test {
 
 void settle() {
@@ -29,7 +27,7 @@ void setGerman(bool german) {
 
 std::vector<Session> readSessions(const QString& file) {
     QFile text(file);
-    EXPECT_TRUE(text.open(QIODevice::ReadOnly)) << file.toStdString();
+    EXPECT_TRUE(text.open(QIODevice::ReadOnly)) << file;
     std::vector<Session> sessions;
     int number = 0;
     bool begins = true;
@@ -39,11 +37,8 @@ std::vector<Session> readSessions(const QString& file) {
         if (!sessions.empty() && !begins) sessions.back().lines << line;
         begins = line.isEmpty();
     }
-    const auto isEmpty = [](const Session& one) {
-        return std::all_of(one.lines.begin(), one.lines.end(),
-            [](const QString& line) { return line.isEmpty() || line.startsWith('#'); });
-    };
-    sessions.erase(std::remove_if(sessions.begin(), sessions.end(), isEmpty), sessions.end());
+    const QRegularExpression action("^[^#]");
+    std::erase_if(sessions, [&](const Session& one) { return one.lines.filter(action).isEmpty(); });
     return sessions;
 }
 
@@ -73,7 +68,7 @@ std::string testName(const testing::TestParamInfo<Session>& session) {
 }
 
 void PrintTo(const Session& session, std::ostream* out) {
-    *out << session.title.toStdString();
+    *out << session.title;
 }
 
 }  // namespace test

@@ -61,7 +61,7 @@ auto changes(const char* one, const char* other) {
     };
 }
 
-// One change of a record that so many hidden inspectors show.
+// One change of a record that the given number of hidden inspectors show.
 auto changesHidden(int inspectors) {
     return [=](int) -> Work {
         auto table = std::make_shared<Table>();

@@ -36,7 +36,7 @@ class MainWindow : public QMainWindow {
 
     // Errors are shown in a message box.
     void openProject(const QString& file);
-    // Until the program ends; the setting stays.
+    // For this run of the program; the stored setting does not change.
     void setDark();
 
  protected:

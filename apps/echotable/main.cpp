@@ -103,7 +103,7 @@ QString unknownVerb(const QStringList& words) {
     return problem + QStringLiteral(", expected ") + choices(begun.isEmpty() ? all : begun);
 }
 
-// `verb` is the one that the words begin with, or null. Returns the function that opens its window, or an empty one.
+// `verb` is that of findVerb(). Returns the function that opens its window; empty if it has none.
 std::function<void()> run(const Verb* verb, const QStringList& words) {
     QCommandLineParser parser;
     parser.addOptions({helpOption(), versionOption()});

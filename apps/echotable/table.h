@@ -22,7 +22,7 @@ namespace tiv::tool {
 // In the order of EchoData::ProgrammTypes.
 QStringList programNames();
 
-// A type's name; the number of one that has no name.
+// The name of a program type; its number if it has no name.
 QString programName(int type);
 
 using Table = echo::data::InternalInterface;

@@ -6,7 +6,8 @@ build=$(cd "$(dirname "${BASH_SOURCE[0]}")/../../build" && pwd)
 export WINEPREFIX=$build/wine WINEDEBUG=-all WINEDLLOVERRIDES='mscoree=;mshtml='
 # The folder of the DLLs that are not beside the program, unless the caller has set another one.
 export WINEPATH=${WINEPATH-Z:$build/windows-dependencies/bin}
-# Wine drops variables whose names begin with QT_. The offscreen platform draws text with these fonts alone.
+# Wine drops variables whose names begin with QT_, and passes WINEQT_... on as QT_.... The offscreen platform draws text
+# with these fonts only.
 export WINEQT_QPA_PLATFORM=offscreen WINEQT_QPA_FONTDIR='Z:\usr\share\fonts\truetype\dejavu'
 
 [ "$1" != --stop ] || { wineserver -k || true; exit; } # none runs

@@ -1,4 +1,4 @@
-// One echo option with its level. Part of the schema set; no settings string holds it.
+// One echo option with its level. Part of the schema set; no settings string contains it.
 #pragma once
 
 #include "echo/schema/output_type.h"

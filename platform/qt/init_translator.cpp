@@ -19,7 +19,7 @@ class Catalogue : public QTranslator {
  public:
     Catalogue(QString name, QCoreApplication* application)
         : QTranslator(application), name_(std::move(name)) {
-        follow();
+        updateLanguages();
         application->installEventFilter(this);
         QCoreApplication::installTranslator(this);
     }
@@ -35,8 +35,8 @@ class Catalogue : public QTranslator {
  private:
     bool eventFilter(QObject* watched, QEvent* event) override {
         if (watched != QCoreApplication::instance()) return false;
-        if (event->type() == QEvent::LanguageChange) follow();
-        if (event->type() == QEvent::LocaleChange && follow()) {
+        if (event->type() == QEvent::LanguageChange) updateLanguages();
+        if (event->type() == QEvent::LocaleChange && updateLanguages()) {
             QEvent change(QEvent::LanguageChange);
             QCoreApplication::sendEvent(watched, &change);
         }
@@ -44,7 +44,7 @@ class Catalogue : public QTranslator {
     }
 
     // Returns whether the languages have changed.
-    bool follow() {
+    bool updateLanguages() {
         const QStringList languages = QLocale().uiLanguages();
         if (languages == languages_) return false;
         languages_ = languages;

@@ -46,14 +46,14 @@ concept Scalar = std::is_scalar_v<T> && !Text<T>;
 
 class Key {
  public:
-    // Of a number, an enumerator or an address.
+    // From a number, an enumerator or an address.
     template <detail::Scalar T>
     Key(T value) : value_(value) {}
-    // Of text.
+    // From text.
     template <detail::Text T>
     Key(const T& text) : value_(std::string(std::string_view(text))) {}
-    // Of another type that can be copied, compared by == and < and hashed by boost::hash. Not by conversion:
-    // std::tuple<Key>, for one, would take any tuple for a key.
+    // From another type that can be copied, compared by == and < and hashed by boost::hash. Not an implicit
+    // conversion: any tuple would then convert to std::tuple<Key>, for example.
     template <class T>
     Key(std::in_place_t, const T& value) : value_(value) {}
 

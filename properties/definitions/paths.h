@@ -6,7 +6,7 @@
 
 namespace tiv::properties::path {
 
-// Editor: which one (QString), what it offers (NamedValues), and how a value is matched to an entry (IsEqual).
+// Editor: its kind (QString), the values offered (NamedValues), and how a value is matched to an entry (IsEqual).
 inline constexpr std::string_view editorKind = "editor.kind";
 inline constexpr std::string_view editorEntries = "editor.entries";
 inline constexpr std::string_view editorIsEqual = "editor.is_equal";

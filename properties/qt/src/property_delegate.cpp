@@ -34,8 +34,8 @@ QWidget* PropertyDelegate::createEditor(
     return editor;
 }
 
-// A popup ends the editing itself, and the focus goes back to the table. `entered` comes last: an observer of
-// the record may destroy the inspector, and the popup, which is still handling a click, must outlive it.
+// Ends the editing when the popup emits a signal, and moves the focus back to the table. `entered` comes last: an
+// observer of the record may destroy the inspector, and the popup, which is still handling a click, must outlive it.
 void PropertyDelegate::connectPopup(PopupEditor* popup, const QPersistentModelIndex& index) const {
     auto* self = const_cast<PropertyDelegate*>(this);
     const auto end = [self, popup] {

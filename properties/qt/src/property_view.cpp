@@ -242,8 +242,8 @@ int PropertyView::wantedLabel(int room) const {
                        : std::min(labels_.line, room - values_.line);
 }
 
-// The labels get what they need and the values the rest. With less room labels are wrapped, then values, and
-// at last the words of the labels are broken. A share that the user has set with the divider is kept within
+// The labels get the width that they need, and the values the rest. In less room the labels are wrapped, then the
+// values, and last the words of the labels are broken. A share that the user has set with the divider is kept within
 // these limits.
 void PropertyView::fitColumns() {
     if (isFitting_ || !isVisible() || !model()) return;

@@ -81,7 +81,7 @@ class PropertyView : public QTreeView {
     int wantedLabel(int room) const;
     void fitColumns();
     QStyleOptionViewItem boldOption(int column) const;
-    // Of a text in one line, without margins. `known` holds those already measured.
+    // The width of a text in one line, without margins. `known` holds the texts already measured.
     int widthOf(const QString& text, QHash<QString, int>& known) const;
     QSize sizeOf(QStyleOptionViewItem& option, const QString& text) const;
     QSize sizeFor(int lines, int width) const;

@@ -105,7 +105,7 @@ void RecordEditor::redo() {
     emit restored(values);
 }
 
-// False if it failed, if an observer went on changing the record, or if `this` is gone.
+// Returns false on failure, if an observer has changed the record as well, or if `this` was destroyed.
 bool RecordEditor::write(const std::vector<PropertyValue>& values) {
     if (!mayEdit()) return false;
     const QPointer<RecordEditor> self(this);

@@ -3,15 +3,7 @@
 #include "inspector/driver.h"
 #include "tiv/dbo/dbo.h"
 
-#include <QApplication>
-#include <QDialog>
-#include <QDialogButtonBox>
-#include <QFile>
-#include <QMessageBox>
-#include <QPushButton>
-#include <QScreen>
-#include <QTemporaryDir>
-#include <QTimer>
+#include <QtWidgets>
 
 #include <gtest/gtest.h>
 
@@ -34,9 +26,10 @@ void edit(const QStringList& words, const std::function<void(test::Driver)>& ste
     ASSERT_TRUE(arguments.parse(QStringList("echotable") + words));
     QTimer::singleShot(0, qApp, [&] {
         QWidget* window = QApplication::activeModalWidget();
-        EXPECT_EQ(window->focusWidget(), window->findChild<QTreeView*>());
-        EXPECT_LE(window->width(), window->screen()->availableSize().width());
-        EXPECT_LE(window->height(), window->screen()->availableSize().height());
+        auto* view = window->findChild<QTreeView*>();
+        EXPECT_EQ(window->focusWidget(), view);
+        EXPECT_FALSE(view->verticalScrollBar()->isVisible() && QApplication::font().pointSize() < 24);
+        EXPECT_EQ(window->size(), window->size().boundedTo(window->screen()->availableSize()));
         steps(test::Driver(window));
     });
     verb.prepare(arguments)();
@@ -65,6 +58,7 @@ TEST(EditWindow, LosesNoEditWithoutAQuestion) {
     QFile file(folder.filePath(name));
     QLocale::setDefault(QLocale::French);  // tests/data/french has a few texts
     const std::string question = name.toStdString() + " a été modifié.";
+    const std::string other = name.toStdString() + " was changed by another program. Save over it?";
     const struct {
         const char *before, *chosen;
         Button left;
@@ -78,6 +72,7 @@ TEST(EditWindow, LosesNoEditWithoutAQuestion) {
         {"Full output*", "No output", Button::Cancel, question, Button::Discard, "ClAGAAA=\n"},
         {"Full output*", "No output", Button::Close, question, Button::Save, "ClACAAA=\n"},
         {"No output*", "Full output", Button::Close, question, Button::Cancel, "ClACAAA=\n"},
+        {"No output*", "Full output", Button::Ok, other, Button::Cancel, "CgAA\n"},
     };
     for (const auto& step : steps) {
         edit({"esk", "--settings", file.fileName()}, [&](test::Driver window) {
@@ -85,6 +80,7 @@ TEST(EditWindow, LosesNoEditWithoutAQuestion) {
             EXPECT_EQ(window.row("Charges"), step.before);
             window.choose("Charges", step.chosen);
             EXPECT_EQ(window.widget->isWindowModified(), QString(step.before).remove('*') != step.chosen);
+            if (step.asked == other && file.open(QIODevice::WriteOnly)) file.write("CgAA\n"), file.close();
             EXPECT_EQ(asked(step.answer, [&] { leave(window, step.left); }), step.asked);
             EXPECT_EQ(window.widget->isVisible(), step.answer == Button::Cancel);
             if (window.widget->isVisible()) asked(Button::Discard, [&] { leave(window, Button::Cancel); });

@@ -1,6 +1,6 @@
 #include "bench/peer_view.h"
-#include "bench/rooms.h"
 #include "bench/sample.h"
+#include "bench/subjects.h"
 
 #include <QApplication>
 #include <QCheckBox>

@@ -1,6 +1,6 @@
 // All operations of the library, and the same work done with plain Qt.
-#include "bench/rooms.h"
 #include "bench/sample.h"
+#include "bench/subjects.h"
 
 #include <memory>
 

@@ -1,6 +1,6 @@
 // The same work without the library, with plain Qt.
 #include "bench/peer_view.h"
-#include "bench/rooms.h"
+#include "bench/subjects.h"
 
 #include <QCoreApplication>
 #include <QStandardItemModel>

@@ -1,5 +1,5 @@
-#include "bench/rooms.h"
 #include "bench/sample.h"
+#include "bench/subjects.h"
 #include "tiv/dbo/dbo.h"
 
 #include <stdexcept>

@@ -1,6 +1,6 @@
 #include "apps/echotable/table.h"
-#include "bench/rooms.h"
 #include "bench/sample.h"
+#include "bench/subjects.h"
 #include "bond/exceptions.h"
 #include "echo/src/internal_data.h"
 

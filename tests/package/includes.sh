@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
-# No room of the house includes one above it: apps -> echo -> properties -> bond, and echo -> platform.
+# No folder includes from one above it: apps -> echo -> properties -> bond, and echo -> platform.
 cd "$1" || exit
 failed=0
-while read -r room forbidden; do
-    grep -rnE --include='*.h' --include='*.cpp' "^ *# *include +[<\"]($forbidden)" "$room"
-    [ $? = 1 ] || { echo "$room: must exist, and include nothing that begins with $forbidden" && failed=1; }
+while read -r folder forbidden; do
+    grep -rnE --include='*.h' --include='*.cpp' "^ *# *include +[<\"]($forbidden)" "$folder"
+    [ $? = 1 ] || { echo "$folder: must exist, and include nothing that begins with $forbidden" && failed=1; }
 done <<'RULES'
 apps/echohost         apps/echotable/|echo/|properties/|platform/|nextgen/
 echo                  apps/

@@ -1,8 +1,6 @@
 // Plays the sessions of sessions.txt.
 #include "inspector/host.h"
-#include "support/session.h"
 
-#include <QAction>
 #include <QApplication>
 #include <QCheckBox>
 #include <QClipboard>
@@ -29,7 +27,8 @@ QStringList hostKeys;
 void open(int type, const QString& settings) {
     host = std::make_unique<Host>(type, settings);
     hostKeys.clear();
-    for (const QString key : {"Ctrl+Z", "Ctrl+Y", "Ctrl+S", "F9", "Del", "Space", "Esc", "PgUp", "L"})
+    for (const QString key :
+        {"Ctrl+Z", "Ctrl+Y", "Alt+L", "F9", "Del", "Space", "Ctrl+Space", "Esc", "Shift+End", "L"})
         QObject::connect(new QShortcut(QKeySequence(key), &host->window), &QShortcut::activated,
             [key] { hostKeys << key; });
     QLineEdit *before = new QLineEdit(&host->window), *after = new QLineEdit(&host->window);

@@ -1,5 +1,4 @@
 // From a described record to property definitions, and from those to the record's values.
-#include "properties/definitions/validators.h"
 #include "properties/qt/inc/nextgen/from_bond.h"
 #include "support/every_type.h"
 #include "support/failure.h"
@@ -57,14 +56,9 @@ TEST_F(EveryProperty, GivesAPropertyToEveryLabelledFieldInOrder) {
         "data.prop.lc|Loadcases||-|-|0|named_value_list|named_value_list|named_value_list\n");
 }
 
-TEST_F(EveryProperty, NamesTheValuesOfAnEnumerationToEditorAndValidator) {
-    for (const char* name : {"editor", "validator"}) {
-        const Branch branch = properties.list[6]->configuration.branch(name);
-        const auto& entries = **branch.get<NamedValues>("entries");
-        ASSERT_EQ(entries.size(), 9u);
-        EXPECT_EQ(entries[3].text, "FULL_OUTPUT");
-        EXPECT_EQ(entries[8].value, 8);
-        const IsEqual isEqual = *branch.get<IsEqual>("is_equal");
+TEST_F(EveryProperty, ComparesTheValuesOfAnEnumerationAsWholeNumbers) {
+    for (const char* path : {"editor.is_equal", "validator.is_equal"}) {
+        const IsEqual isEqual = *properties.list[6]->configuration.get<IsEqual>(path);
         EXPECT_TRUE(isEqual(3, 3LL) && !isEqual(3, -1) && !isEqual(-3, qulonglong(-3)));
         for (const QVariant& noNumber : {QVariant(), QVariant("abc"), QVariant(0.4)})
             EXPECT_FALSE(isEqual(0, noNumber)) << noNumber.typeName();
@@ -113,12 +107,6 @@ TEST_F(EveryProperty, KeepsAValueThatFitsAndRefusesOneThatDoesNot) {
         EXPECT_EQ(model.read<test::EveryType>(key).data.prop.grp, fits ? 5 : 0) << &row - rows;
         setValues(back, model, key);
     }
-}
-
-TEST_F(EveryProperty, AcceptsOnlyAsManyDecimalPlacesAsItHas) {
-    const auto isAccepted = DefaultValidatorFactory().create(*properties.list[4]);
-    for (const QVariant& fits : {QVariant("-1.25"), QVariant(1e15)}) EXPECT_TRUE(isAccepted(fits));
-    for (const QVariant& other : {QVariant(1.2505), QVariant("wide")}) EXPECT_FALSE(isAccepted(other));
 }
 
 TEST(FromBond, RefusesAWeightThatIsNoWhole32BitNumber) {

@@ -100,13 +100,13 @@ TEST(Inspector, ShowsTheApplicableOptionsInOrderWithExactlyTheirLevels) {
                     EXPECT_EQ(tip.startsWith("Numeric level " + offered[i]), offered[i].size() == 1);
                 }
                 const QRect list = driver.list()->window()->frameGeometry();
+                const QRect at = cell.translated(driver.view->viewport()->mapToGlobal(QPoint()));
+                EXPECT_EQ(type % 2 ? list.right() : list.left(), type % 2 ? at.right() : at.left());
                 EXPECT_EQ(driver.list()->font().family(), "DejaVu Serif");
                 EXPECT_EQ(driver.list()->layoutDirection(), widget->layoutDirection());
                 EXPECT_TRUE(screen.contains(list)) << o.label;
                 EXPECT_GE(list.width(), cell.width());
-                EXPECT_GE(driver.list()->viewport()->width(), driver.list()->sizeHintForColumn(0));
-                EXPECT_FALSE(
-                    list.intersects(cell.translated(driver.view->viewport()->mapToGlobal(QPoint()))));
+                EXPECT_FALSE(list.intersects(at));
                 driver.key(Qt::Key_Escape);
                 EXPECT_FALSE(driver.list());
             }
@@ -337,11 +337,10 @@ TEST(Inspector, FollowsWhatItsHostDoesWithTheModel) {
 TEST(Inspector, EditsFieldsOfEveryTypeInOrderOfWeightUnderTheirCategories) {
     const auto properties = std::make_shared<Properties>();
     const auto model = std::make_shared<tiv::container::model::Model>();
-    const auto selection = std::make_shared<tiv::properties::SelectionManager<tiv::container::model::Key>>();
-    const auto& record = tiv::properties::recordAccess<EveryType>();
-    tiv::properties::fromBond(record, *properties);
-    tiv::container::model::Transaction transaction(*model);
-    record.insertDefault(transaction, 0);
+    const auto selection = std::make_shared<SelectionManager<tiv::container::model::Key>>();
+    fromBond(recordAccess<EveryType>(), *properties);
+    Transaction transaction(*model);
+    transaction.insert(0, EveryType());
     transaction.end();
     QtInspectorWidget widget(nullptr, properties, selection, model, std::make_shared<DefaultEditorFactory>(),
         std::make_shared<DefaultValidatorFactory>());
@@ -425,10 +424,7 @@ TEST(Inspector, CutsNothingAt460Pixels) {
                 driver.key(Qt::Key_End);
                 driver.key(Qt::Key_Up);
                 driver.key(Qt::Key_F2);
-                const QRect cell = driver.view->visualRect(driver.view->currentIndex())
-                                       .translated(driver.view->viewport()->mapToGlobal(QPoint()));
-                const QRect list = driver.list()->window()->geometry();
-                EXPECT_EQ(german ? list.left() : list.right(), german ? cell.left() : cell.right());
+                EXPECT_GE(driver.list()->viewport()->width(), driver.list()->sizeHintForColumn(0));
                 driver.key(Qt::Key_Escape);
             }
     setGerman(false);

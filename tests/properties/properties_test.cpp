@@ -31,29 +31,17 @@ class EveryProperty : public testing::Test {
     const Key key = 0;
 };
 
-TEST_F(EveryProperty, GivesAPropertyToEveryLabelledFieldInOrder) {
-    std::string text;
-    for (const auto& p : properties.list) {
-        for (const char* part : {p->key.c_str(), p->displayName, p->category, p->tooltip, p->columnWidth})
-            text += std::string(part ? part : "-") + '|';
-        text += std::to_string(p->weight);
-        for (const char* path : {"editor.kind", "validator.kind", "editor.validator.kind"})
-            if (const auto* kind = p->configuration.get<QString>(path)) text += '|' + kind->toStdString();
-        for (const char* path : {"validator.precision", "editor.validator.precision"})
-            if (const auto* digits = p->configuration.get<int>(path)) text += '|' + std::to_string(*digits);
-        text += '\n';
+TEST_F(EveryProperty, IsConfiguredByItsAttributes) {
+    const Property &width = *properties.list[4], &level = *properties.list[6];
+    EXPECT_EQ(properties.list[8]->key, "data.prop.grp");
+    EXPECT_STREQ(width.columnWidth, "12");
+    for (const char* path : {"validator.precision", "editor.validator.precision"}) {
+        EXPECT_EQ(*width.configuration.get<int>(path), 2);
+        EXPECT_FALSE(properties.list[2]->configuration.get<int>(path)) << "it is no number";
     }
-    EXPECT_EQ(text,
-        "yes|Yes|General|Whether it is on|-|0\n"
-        "i8|Small|General|-|-|7\n"
-        "u64|Big|General|-|-|0\n"
-        "f|Factor|General|-|-|0\n"
-        "d|Width|General|-|12|-2147483648|2|2\n"
-        "text|Name|General|-|-|0\n"
-        "level|Level||-|-|0|swatch|named_value_list|named_value_list\n"
-        "data.prop.cs|Construction Stages||-|-|0|named_value_list|named_value_list|named_value_list\n"
-        "data.prop.grp|Groups||-|-|0|named_value_list|named_value_list|named_value_list\n"
-        "data.prop.lc|Loadcases||-|-|0|named_value_list|named_value_list|named_value_list\n");
+    for (const char* path : {"validator.kind", "editor.validator.kind"})
+        EXPECT_EQ(*level.configuration.get<QString>(path), "named_value_list");
+    EXPECT_EQ(*level.configuration.get<QString>("editor.kind"), "swatch");
 }
 
 TEST_F(EveryProperty, ComparesTheValuesOfAnEnumerationAsWholeNumbers) {
@@ -106,17 +94,6 @@ TEST_F(EveryProperty, KeepsAValueThatFitsAndRefusesOneThatDoesNot) {
         EXPECT_EQ(value(*edited, model, key).toString(), (fits ? row.stored : before).toString());
         EXPECT_EQ(model.read<test::EveryType>(key).data.prop.grp, fits ? 5 : 0) << &row - rows;
         setValues(back, model, key);
-    }
-}
-
-TEST(FromBond, RefusesAWeightThatIsNoWhole32BitNumber) {
-    for (const char* weight : {"2147483648", "1.5", "heavy", ""}) {
-        const bond::Attribute attributes[] = {{"DisplayName", "On"}, {"PropertyWeight", weight}};
-        const bond::Row rows[] = {{"on", bond::Type::Bool, 0, 0, attributes, nullptr, nullptr}};
-        const bond::Struct schema{"sample.Weight", rows, nullptr};
-        Properties properties;
-        EXPECT_THROW(fromBond({schema, {}, {}, {}, {}, {}}, properties), std::bad_cast) << weight;
-        EXPECT_TRUE(properties.list.empty());
     }
 }
 

@@ -92,7 +92,7 @@ class EchotableTool : public testing::Test {
 
 TEST_F(EchotableTool, MakesInputLinesFromOptions) {
     repeat("session.txt");
-    EXPECT_EQ(files()["L"].left(52), "ECHO OPT FULL VAL NO $ Voreinstellung aller Optionen");
+    EXPECT_TRUE(files()["L"].endsWith("NOST VAL NO $ Schnittgr\u00f6\u00dfen in Knoten\n"));
 }
 
 TEST_F(EchotableTool, ReportsErrorsInOneLineAndChangesNothing) {

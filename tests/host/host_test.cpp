@@ -62,12 +62,8 @@ class Host : public testing::TestWithParam<Session> {
         const bool isExpected = !answers.isEmpty();
         const QString answer = isExpected ? answers.takeFirst() : QString();
         const auto* box = qobject_cast<QMessageBox*>(dialog);
-        if (box) {
-            questions << shown(box->text());
-            EXPECT_EQ(box->textFormat(), Qt::PlainText);
-        } else {
-            questions << dialog->windowTitle();
-        }
+        EXPECT_TRUE(!box || box->textFormat() == Qt::PlainText);
+        questions << (box ? shown(box->text()) : dialog->windowTitle());
         if (answer == "Enter") return QTest::keyClick(dialog, Qt::Key_Return);
         for (auto* button : dialog->findChildren<QAbstractButton*>())
             if (isExpected && button->text().remove('&') == answer) return button->click();
@@ -81,8 +77,10 @@ class Host : public testing::TestWithParam<Session> {
             return void(QMetaObject::invokeMethod(files, "accept"));
         }
         QApplication::setActiveWindow(dialog);
-        if (dialog->findChild<QLineEdit*>("name"))
+        if (const auto* name = dialog->findChild<QLineEdit*>("name")) {
+            questions.last() += ": " + name->selectedText();
             QTest::keyClicks(dialog->focusWidget(), answer.section('/', 0, 0));
+        }
         if (auto* program = dialog->findChild<QComboBox*>()) program->setCurrentText(answer.section('/', 1));
         const auto counts = dialog->findChildren<QSpinBox*>();
         for (int i = 0; i < counts.size(); ++i) counts[i]->setValue(answer.section(' ', i, i).toInt());
@@ -108,9 +106,9 @@ class Host : public testing::TestWithParam<Session> {
     }
     QString entries(const char* menu, bool (QAction::*are)() const) const {
         QStringList result;
-        auto* shown = window->findChild<QMenu*>(menu);
-        emit shown->aboutToShow();
-        for (const QAction* action : shown->actions())
+        auto* opened = window->findChild<QMenu*>(menu);
+        emit opened->aboutToShow();
+        for (const QAction* action : opened->actions())
             if (!action->isSeparator() && (action->*are)())
                 result << (textOf(action) + ' ' + action->shortcut().toString()).trimmed();
         return result.join('|');

@@ -1,5 +1,5 @@
-// The transactional object model beside a naive one. A byte is an operation and a point at which memory runs
-// out, as described in tests/container/operation_sequence.h.
+// The transactional object model, compared with a naive one. A byte is an operation and an allocation that fails,
+// as described in tests/container/operation_sequence.h.
 #include "container/operation_sequence.h"
 #include "fuzz/target.h"
 

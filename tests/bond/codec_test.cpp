@@ -51,7 +51,7 @@ QMap<QString, decltype(&answer<kst::Data>)> answers() {
     return {{bond::description<Records>.name, answer<Records>}...};
 }
 
-TEST(Codec, AnswersAsTheReferenceLibraryAndWithinItsLimits) {
+TEST(Codec, GivesTheResultsOfTheReferenceLibraryWithinItsLimits) {
     const auto known = answers<qsx::BrucData, qsx::RissData, qsx::ElPlData, esk::Data, esk::EigeData,
         dimvel::BrucData, dimvel::RissData, kst::Data, vibr::EarthquakeData, mexora::Data, plax2::Data,
         tiviload::Data, rova::Data, test::EveryType>();

@@ -21,7 +21,7 @@ using tiv::echo::data::programTypeCount;
 
 const Project everything(everyKind);
 
-TEST(EchoData, WithoutOptionsAnswersNothingAndReportsOnlyAnUnknownType) {
+TEST(EchoData, WithoutOptionsReturnsNothingAndReportsOnlyAnUnknownType) {
     for (const unsigned type : {12U, unsigned{programTypeCount}, 0xFFFFFFFF}) {
         EchoData echo(static_cast<EchoData::ProgrammTypes>(type), everything.handle);
         const Reports invalid{R"(0 && "invalid prog_type" at echo/src/internal_data:120)"};

@@ -97,7 +97,7 @@ QString Driver::marked() const {
     return open->selectionModel()->selectedIndexes().front().data().toString();
 }
 
-// Of the open list's entry; null: it has none.
+// The centre of the open list's entry; null if it has no such entry.
 static QPoint centreOf(const Driver& driver, const QString& level) {
     const auto* open = driver.list();
     const int entry = static_cast<int>(driver.offered().indexOf(level));

@@ -1,4 +1,4 @@
-// The inspector of an echo table, from outside: rows, keys, clicks, and the settings that result.
+// The inspector of an echo table: rows, keys, clicks, and the resulting settings.
 #include "echo/src/inspector.h"
 #include "echo/schema/esk.h"
 #include "echo/src/internal_data.h"
@@ -88,7 +88,7 @@ TEST(Inspector, ShowsTheApplicableOptionsInOrderWithExactlyTheirLevels) {
                     "Extensive output", "4", "5", "6", "7"};
                 QStringList offered;
                 for (const QChar digit : o.offered) offered << texts[digit.digitValue()];
-                // Every other one is at the lower edge of the screen.
+                // Every second cell is at the lower edge of the screen.
                 const QRect cell = driver.cell(o.label, 1);
                 const int bottom = driver.view->viewport()->mapTo(widget.get(), cell.bottomLeft()).y();
                 widget->move(0, labels.size() % 2 ? screen.bottom() - bottom - 1 : 0);
@@ -135,7 +135,7 @@ TEST(Inspector, ChangesNothingByWheelOrNavigation) {
     driver.key(Qt::Key_Escape);
     held.setAccepted(true);
     QApplication::sendEvent(driver.view, &held);
-    EXPECT_TRUE(held.isAccepted() && !driver.list()) << "nor is it the host's";
+    EXPECT_TRUE(held.isAccepted() && !driver.list()) << "the host does not get it";
     for (const auto key : {Qt::Key_Down, Qt::Key_Home, Qt::Key_End, Qt::Key_Up, Qt::Key_PageUp, Qt::Key_Left,
              Qt::Key_PageDown, Qt::Key_Right, Qt::Key_Tab, Qt::Key_Backtab}) {
         driver.view->setFocus();
@@ -150,12 +150,12 @@ TEST(Inspector, ChangesNothingByWheelOrNavigation) {
 TEST(Inspector, FollowsEveryChangeOfTheRecordInAllInspectors) {
     Host host(EchoData::ESK);
     host.driver->choose("Loads", "Full output");
-    Driver second(host.inspector());  // into a page that is visible: its rows have one line all the same
+    Driver second(host.inspector());  // on a visible page: its rows still have one line
     EXPECT_LT(second.cell("Loads", 0).height(), 2 * second.view->fontMetrics().height());
     Driver& first = *host.driver;
     first.view->setFocus();
     first.key(Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(host.echo->getXMLData(), "CgAA\n") << "its step is kept";
+    EXPECT_EQ(host.echo->getXMLData(), "CgAA\n") << "undo of the first inspector";
     first.click("Loads");
     ASSERT_TRUE(first.list());
     host.echo->insertXMLData(json(R"("load":2,"bedd":3)"));
@@ -171,7 +171,7 @@ TEST(Inspector, FollowsEveryChangeOfTheRecordInAllInspectors) {
     settle();
     EXPECT_EQ(first.row("Loads"), "No output*");
     EXPECT_EQ(first.view->currentIndex().data().toString(), "No output");  // still on its row
-    bool isFirst = true;  // another gesture comes between: the steps no longer fit
+    bool isFirst = true;  // another edit comes between: the undo steps no longer fit
     QObject::connect(
         qobject_cast<QtInspectorWidget*>(first.widget), &QtInspectorWidget::settingsChanged, [&] {
             if (std::exchange(isFirst, false)) QTest::keyClick(first.view, Qt::Key_Delete);
@@ -183,7 +183,7 @@ TEST(Inspector, FollowsEveryChangeOfTheRecordInAllInspectors) {
 
 QStringList announced;  // names of the cells that got the focus, and notifications
 
-// Made under a disabled parent: Qt asks for accessible interfaces early then.
+// The parent is disabled: Qt then asks for accessible interfaces early.
 TEST(Inspector, IsReadOutByAScreenReader) {
     // Only the platform plugin can report a screen reader.
     auto* platform = QGuiApplicationPrivate::platformIntegration()->accessibility();
@@ -478,9 +478,8 @@ TEST(Inspector, MovesItsDividerBetweenTheLeastWidthsOfBothSides) {
     };
     const int before = label();
     drag(300);
-    drag(635, 100);
     drag(500, driver.cell("Loads", 2).left());
-    EXPECT_EQ(label(), 300) << "there is one divider, and columns do not move";
+    EXPECT_EQ(label(), 300) << "there is one divider";
     host.window.resize(940, 480);
     settle();
     EXPECT_NEAR(label(), 450, 20) << "the share of the labels stays";
@@ -577,9 +576,6 @@ TEST(Inspector, PaintsWhateverChanges) {
     EXPECT_TRUE(hasArrow("Group parameters"));
     driver.click("Loads", 2);
     expectPainted("a reset");
-    setGerman(true);
-    expectPainted("another language");
-    setGerman(false);
     driver.key(Qt::Key_F, Qt::ControlModifier);
     driver.type("zzz");
     expectPainted("the filter");
@@ -596,7 +592,7 @@ TEST(Inspector, PaintsWhateverChanges) {
 // Each object is destroyed first, in each state of the inspector.
 TEST(Inspector, SurvivesEveryOrderOfDestruction) {
     const struct {
-        bool changes;  // the record, whose observer then destroys
+        bool changes;  // the record; its observer then destroys the victim
         std::function<void(Driver&)> gesture;
     } cases[] = {
         {false, [](Driver&) {}},

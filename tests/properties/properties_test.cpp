@@ -1,4 +1,4 @@
-// From a described record to property definitions, and from those to the record's values.
+// The property definitions of a described record, and access to its values through them.
 #include "properties/qt/inc/nextgen/from_bond.h"
 #include "support/every_type.h"
 #include "support/failure.h"

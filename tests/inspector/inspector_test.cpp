@@ -101,7 +101,6 @@ TEST(Inspector, ShowsTheApplicableOptionsInOrderWithExactlyTheirLevels) {
                 }
                 const QRect list = driver.list()->window()->frameGeometry();
                 const QRect at = cell.translated(driver.view->viewport()->mapToGlobal(QPoint()));
-                EXPECT_EQ(type % 2 ? list.right() : list.left(), type % 2 ? at.right() : at.left());
                 EXPECT_EQ(driver.list()->font().family(), "DejaVu Serif");
                 EXPECT_EQ(driver.list()->layoutDirection(), widget->layoutDirection());
                 EXPECT_TRUE(screen.contains(list)) << o.label;
@@ -424,6 +423,10 @@ TEST(Inspector, CutsNothingAt460Pixels) {
                 driver.key(Qt::Key_End);
                 driver.key(Qt::Key_Up);
                 driver.key(Qt::Key_F2);
+                const QRect cell = driver.view->visualRect(driver.view->currentIndex())
+                                       .translated(driver.view->viewport()->mapToGlobal(QPoint()));
+                const QRect list = driver.list()->window()->geometry();
+                EXPECT_EQ(german ? list.left() : list.right(), german ? cell.left() : cell.right());
                 EXPECT_GE(driver.list()->viewport()->width(), driver.list()->sizeHintForColumn(0));
                 driver.key(Qt::Key_Escape);
             }

@@ -167,7 +167,9 @@ struct Gnome : QPlatformTheme {
     }
 };
 
-class InspectorSession : public testing::TestWithParam<Session> {};
+struct InspectorSession : public testing::TestWithParam<Session> {
+    static void TearDownTestSuite() { QTest::qWait(50); }  // frees an animation of the filter bar
+};
 
 TEST_P(InspectorSession, IsAsWritten) {
     Gnome gnome;

@@ -157,9 +157,12 @@ class Host : public testing::TestWithParam<Session> {
     QSplitter* panels() const { return window->findChild<QSplitter*>(); }
     QString choices() const {
         QStringList result;
+        const auto add = [&](const QWidget* widget, const QString& text) {
+            result << text + (widget->width() < widget->sizeHint().width() ? " (cut)" : "");
+        };
         for (const auto* button : window->findChildren<QToolButton*>())
-            if (button->defaultAction()) result << button->text();
-        for (const auto* box : window->findChildren<QComboBox*>()) result << box->currentText();
+            if (button->defaultAction()) add(button, button->text());
+        for (const auto* box : window->findChildren<QComboBox*>()) add(box, box->currentText());
         result.sort();
         return result.join('|');
     }

@@ -85,9 +85,8 @@ class Host : public testing::TestWithParam<Session> {
         const auto counts = dialog->findChildren<QSpinBox*>();
         for (int i = 0; i < counts.size(); ++i) counts[i]->setValue(answer.section(' ', i, i).toInt());
         for (const auto* label : dialog->findChildren<QLabel*>()) questions.last() += ' ' + label->text();
-        auto* ok = dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
-        if (ok->isEnabled()) return ok->click();
-        dialog->close();
+        dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
+        dialog->close();  // where OK is disabled
     }
 
     QString file(const QString& name) const { return folder.filePath(name); }
@@ -126,7 +125,6 @@ class Host : public testing::TestWithParam<Session> {
         QMimeData data;
         data.setUrls(urls);
         QDragEnterEvent enter({9, 99}, Qt::CopyAction, &data, Qt::LeftButton, {});
-        enter.ignore();
         QApplication::sendEvent(window.get(), &enter);
         if (!enter.isAccepted()) return "refused";
         QDropEvent drop({9, 99}, Qt::CopyAction, &data, Qt::LeftButton, {});

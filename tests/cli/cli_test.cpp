@@ -25,8 +25,8 @@ class EchotableTool : public testing::Test {
     std::string shell(const QString& command, const QByteArray& input = {}) const {
         const QString names = "tool=\"" TIV_ECHOTABLE "\" host=\"" TIV_ECHOHOST "\" french=\"" TIV_FRENCH
                               "\" manual=\"" TIV_MAN_PAGE "\"; ";
-        return execute(
-            "bash", {"-c", names + "echotable() { \"$tool\" \"$@\"; }; echotable" + command}, input);
+        const QString tool = R"(echotable() { "$tool" "$@"; }; echotable)";
+        return execute("bash", {"-c", names + tool + command}, input);
     }
 
     std::string execute(const QString& program, const QStringList& words, const QByteArray& input) const {

@@ -32,7 +32,7 @@ inline void countAllocation() {
 struct Value {
     explicit Value(int n) : content(n, n) { ++alive; }
     Value(const Value& other) : content(other.content) { countAllocation(), ++alive; }
-    Value(Value&& other) noexcept : content(other.content) { ++alive; }
+    Value(Value&& other) noexcept : content(std::move(other.content)) { ++alive; }
     Value& operator=(Value&&) noexcept = default;
     ~Value() { --alive; }
 
@@ -72,7 +72,7 @@ struct BothModels {
     }
 
     void operate(int operation, const model::Key& key, int failing) {
-        const bool open = transaction != nullptr, present = naive.count(key) != 0;
+        const bool open = transaction != nullptr, present = naive.contains(key);
         if (operation == 0) {
             const auto begin = [&] { transaction = std::make_unique<model::Transaction>(real); };
             if (done(failing, !open, begin)) committed = naive;

@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <limits>
 
 namespace {
@@ -49,7 +50,7 @@ TEST(EveryProgram, WritesTheLinesOfItsTableForAllLevelsElementsAndLanguages) {
             SCOPED_TRACE(type);
             const auto options = expectedOptions(type);
             std::vector<int> levels;
-            for (const ExpectedOption& o : options) levels.push_back(o.byDefault);
+            std::ranges::transform(options, std::back_inserter(levels), &ExpectedOption::byDefault);
             EchoData echo(EchoData::ProgrammTypes(type), project.handle);
             EchoData loaded(EchoData::ProgrammTypes(type), project.handle);
             EXPECT_EQ(echo.getXMLData(), "CgAA\n");

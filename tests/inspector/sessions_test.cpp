@@ -31,7 +31,7 @@ void open(int type, const QString& settings) {
         {"Ctrl+Z", "Ctrl+Y", "Alt+L", "F9", "Del", "Space", "Ctrl+Space", "Esc", "Shift+End", "L"})
         QObject::connect(new QShortcut(QKeySequence(key), &host->window), &QShortcut::activated,
             [key] { hostKeys << key; });
-    QLineEdit *before = new QLineEdit(&host->window), *after = new QLineEdit(&host->window);
+    auto *before = new QLineEdit(&host->window), *after = new QLineEdit(&host->window);
     for (QLineEdit* field : {before, after}) host->window.layout()->addWidget(field);
     QWidget::setTabOrder(before, host->driver->view);
     QWidget::setTabOrder(host->driver->view, after);

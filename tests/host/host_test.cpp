@@ -234,10 +234,7 @@ TEST_P(Host, IsAsWritten) {
         {"lock", lock},
         {"unlock", [&](const Words&) { sqlite3_close(other); }},
         {"resize", [&](const Words& w) { window->resize(w.all.toInt(), 333); }},
-        {"equal-panels",
-            [&](const Words&) {
-                panels()->setSizes({999, 999, 999});
-            }},
+        {"equal-panels", [&](const Words&) { panels()->setSizes(QVector<int>(3, 999).toList()); }},
         {"close", [&](const Words& w) { expect(w.all), window->close(); }},
     };
     const Sees sees{

@@ -97,26 +97,19 @@ QString Driver::marked() const {
     return open->selectionModel()->selectedIndexes().front().data().toString();
 }
 
-// The centre of the open list's entry; null if it has no such entry.
-static QPoint centreOf(const Driver& driver, const QString& level) {
-    const auto* open = driver.list();
-    const int entry = static_cast<int>(driver.offered().indexOf(level));
-    return open && entry >= 0 ? open->visualRect(open->model()->index(entry, 0)).center() : QPoint();
-}
-
-bool Driver::hover(const QString& level) const {
-    const QPoint at = centreOf(*this, level);
-    if (at.isNull()) return false;
-    QTest::mouseMove(list()->viewport(), at - QPoint(1, 0));
-    QTest::mouseMove(list()->viewport(), at);
+QPoint Driver::hover(const QString& level) const {
+    const auto entry = static_cast<int>(offered().indexOf(level));
+    EXPECT_TRUE(list() && entry >= 0) << level.toStdString();
+    if (!list()) return {};
+    const QPoint at = list()->visualRect(list()->model()->index(entry, 0)).center();
+    for (const QPoint& point : {at - QPoint(1, 0), at}) QTest::mouseMove(list()->viewport(), point);
     settle();
-    return true;
+    return at;
 }
 
-bool Driver::pick(const QString& level) {
-    const QPoint at = centreOf(*this, level);
-    if (!at.isNull()) QTest::mouseClick(list()->viewport(), Qt::LeftButton, {}, at);
-    return !at.isNull();
+void Driver::pick(const QString& level) {
+    const QPoint at = hover(level);
+    if (list()) QTest::mouseClick(list()->viewport(), Qt::LeftButton, {}, at);
 }
 
 void Driver::choose(const QString& label, const QString& level) {

@@ -31,10 +31,10 @@ class Driver {
     static void wheel(QWidget* target);  // one turn
     // The open list of levels, or null.
     QAbstractItemView* list() const;
-    QStringList offered() const;                              // by the open list or menu
-    bool hover(const QString& level) const;                   // false: no open list offers it
-    QString marked() const;                                   // the list's current entry
-    bool pick(const QString& level);                          // false: no open list offers it
+    QStringList offered() const;               // by the open list or menu
+    QPoint hover(const QString& level) const;  // fails if no open list offers it; returns the place
+    QString marked() const;                    // the list's current entry
+    void pick(const QString& level);
     void choose(const QString& label, const QString& level);  // two clicks
     // The context menu of the current row.
     void openMenu();

@@ -189,7 +189,7 @@ TEST(Inspector, IsReadOutByAScreenReader) {
     platform->setActive(true);
     Host host(EchoData::ESK, json(R"("load":3)"), false);
     host.window.setEnabled(true);
-    host.window.resize(640, 240);
+    host.window.resize(640, 180);
     Driver& driver = *host.driver;
     driver.view->setFocus();
     auto* tree = QAccessible::queryAccessibleInterface(driver.view);

@@ -174,7 +174,8 @@ TEST_P(InspectorSession, IsAsWritten) {
     setGerman(false);
     EXPECT_TRUE(host->window.findChildren<QMenu*>().isEmpty()) << "menus are gone when they are closed";
     host.reset();
-    EXPECT_EQ(QApplication::allWidgets(), QWidgetList()) << "nothing is left";
+    for (const QWidget* left : QApplication::allWidgets())
+        EXPECT_EQ(left->windowType(), Qt::Desktop);  // Qt's
 }
 
 INSTANTIATE_TEST_SUITE_P(

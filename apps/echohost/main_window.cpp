@@ -220,10 +220,14 @@ void MainWindow::openProject(const QString& file) {
     });
 }
 
+QString MainWindow::projectFolder() const {
+    return project_ ? QFileInfo(project_->file()).path() : QString();
+}
+
 QString MainWindow::askNewFile(const QString& title) {
     return projectFile(QFileDialog::getSaveFileName(this,
         title,
-        project_ ? QFileInfo(project_->file()).path() : QString(),
+        projectFolder(),
         tr("Projects (*.tiv)"),
         nullptr,
         QFileDialog::DontConfirmOverwrite));  // a project is never overwritten
@@ -242,7 +246,7 @@ void MainWindow::newProject() {
 void MainWindow::chooseProject() {
     if (!mayLeave()) return;
     const QString file =
-        QFileDialog::getOpenFileName(this, tr("Open project"), QString(), tr("Projects (*.tiv)"));
+        QFileDialog::getOpenFileName(this, tr("Open project"), projectFolder(), tr("Projects (*.tiv)"));
     if (!file.isEmpty()) openProject(file);
 }
 
@@ -311,7 +315,7 @@ void MainWindow::dropEvent(QDropEvent* event) {
 }
 
 void MainWindow::exportLines() {
-    const QString file = QFileDialog::getSaveFileName(this, tr("Export ECHO lines"));
+    const QString file = QFileDialog::getSaveFileName(this, tr("Export ECHO lines"), projectFolder());
     if (!file.isEmpty()) tiv::apps::replaceFile(file, lines().toUtf8());
 }
 

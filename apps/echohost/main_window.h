@@ -76,6 +76,8 @@ class MainWindow : public QMainWindow {
     // The index of the answer that was clicked; -1 for Cancel, the default.
     int ask(QMessageBox::Icon icon, const QString& text, const QStringList& answers);
     Project::Keep askWhoseToKeep(const QString& task);
+    // Where file dialogs open. Empty without a project: where the last one was.
+    QString projectFolder() const;
     QString askNewFile(const QString& title);
     // Whether the project may be closed: asks the user if there are unsaved changes.
     bool mayLeave();

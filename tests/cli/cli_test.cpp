@@ -1,7 +1,7 @@
 // The built tool as its users run it: in a folder of its own, without a display.
 #include "tiv/dbo/dbo.h"
 
-#include <QtCore>
+#include <QtGui>
 
 #include <gtest/gtest.h>
 
@@ -113,6 +113,7 @@ TEST_F(EchotableTool, ReportsErrorsInOneLineAndChangesNothing) {
 TEST_F(EchotableTool, RunsInAShell) {
     if (!QFile::exists("/dev/full")) GTEST_SKIP() << "not this system";
     repeat("system.txt", &EchotableTool::shell);
+    EXPECT_LT(QImage(folder.filePath("output0000.png")).pixelColor(5, 5).lightness(), 99) << "dark";
 }
 
 }  // namespace

@@ -62,8 +62,13 @@ class Host : public testing::TestWithParam<Session> {
         const bool isExpected = !answers.isEmpty();
         const QString answer = isExpected ? answers.takeFirst() : QString();
         const auto* box = qobject_cast<QMessageBox*>(dialog);
-        EXPECT_TRUE(!box || box->textFormat() == Qt::PlainText);
         questions << (box ? shown(box->text()) : dialog->windowTitle());
+        if (box) {
+            EXPECT_EQ(box->textFormat(), Qt::PlainText);
+            EXPECT_EQ(
+                box->windowTitle().toStdString() + (box->icon() == QMessageBox::Critical ? " error" : ""),
+                questions.last().startsWith("~/") ? "host_test error" : "host_test");
+        }
         if (answer == "Enter") return QTest::keyClick(dialog, Qt::Key_Return);
         for (auto* button : dialog->findChildren<QAbstractButton*>())
             if (isExpected && button->text().remove('&') == answer) return button->click();
@@ -73,6 +78,8 @@ class Host : public testing::TestWithParam<Session> {
             return void(dialog->close());
         }
         if (auto* files = qobject_cast<QFileDialog*>(dialog)) {
+            const QString proposed = (files->selectedFiles() << files->directory().path()).first();
+            questions.last() += " in " + shown(proposed) + ": " + files->nameFilters().join('|');
             files->selectFile(file(answer));
             return void(QMetaObject::invokeMethod(files, "accept"));
         }
@@ -81,11 +88,20 @@ class Host : public testing::TestWithParam<Session> {
             questions.last() += ": " + name->selectedText();
             QTest::keyClicks(dialog->focusWidget(), answer.section('/', 0, 0));
         }
-        if (auto* program = dialog->findChild<QComboBox*>()) program->setCurrentText(answer.section('/', 1));
+        if (auto* program = dialog->findChild<QComboBox*>()) {
+            for (offered.clear(); offered.size() < program->count();)
+                offered << program->itemText(offered.size());
+            program->setCurrentText(answer.section('/', 1));
+        }
         const auto counts = dialog->findChildren<QSpinBox*>();
         for (int i = 0; i < counts.size(); ++i) counts[i]->setValue(answer.section(' ', i, i).toInt());
-        for (const auto* label : dialog->findChildren<QLabel*>()) questions.last() += ' ' + label->text();
-        dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
+        auto* ok = dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
+        for (const auto* label : dialog->findChildren<QLabel*>()) {
+            questions.last() += ' ' + label->text();
+            EXPECT_EQ(label->buddy() != nullptr, label->text().contains('&'));
+            EXPECT_LT(label->y(), ok->mapTo(dialog, {0, 0}).y());
+        }
+        ok->click();
         dialog->close();  // where OK is disabled
     }
 
@@ -111,6 +127,18 @@ class Host : public testing::TestWithParam<Session> {
             if (!action->isSeparator() && (action->*are)())
                 result << (textOf(action) + ' ' + action->shortcut().toString()).trimmed();
         return result.join('|');
+    }
+    QString contextMenu() const {
+        QString result;
+        QTimer::singleShot(0, [&] {
+            auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+            result = menu ? shown(texts(*menu).remove('&')) : "none";
+            if (menu) menu->close();
+        });
+        QContextMenuEvent event(QContextMenuEvent::Mouse, {9, 9}, tasks()->mapToGlobal({9, 9}));
+        QApplication::sendEvent(tasks()->viewport(), &event);
+        QApplication::processEvents();
+        return result;
     }
     void chooseAbove(const QString& text) const {
         for (auto* box : window->findChildren<QComboBox*>())
@@ -166,6 +194,11 @@ class Host : public testing::TestWithParam<Session> {
     }
     QString look() const {
         const QPalette colours = window->palette();
+        for (const auto& [text, ground] :
+            {std::pair(QPalette::Text, QPalette::Base), {QPalette::Text, QPalette::AlternateBase},
+                {QPalette::ButtonText, QPalette::Button}, {QPalette::ToolTipText, QPalette::ToolTipBase},
+                {QPalette::Link, QPalette::Base}, {QPalette::HighlightedText, QPalette::Highlight}})
+            EXPECT_GT(std::abs(qGray(colours.color(text).rgb()) - qGray(colours.color(ground).rgb())), 99);
         return QString("%1 %2 %3")
             .arg(QApplication::style()->objectName(), colours.windowText().color().name(),
                 colours.window().color().name());
@@ -197,7 +230,7 @@ class Host : public testing::TestWithParam<Session> {
     const QTemporaryDir folder;
     const QString path = file("Haus \u00e4.tiv");
     std::unique_ptr<echohost::MainWindow> window;
-    QStringList answers, questions;
+    QStringList answers, questions, offered;
     QTimer dialogs;
 };
 
@@ -249,6 +282,7 @@ TEST_P(Host, IsAsWritten) {
         {"dropped", [&](const Words& w) { return w.label + ": " + drop(w.label); }},
         {"file-menu", [&](const Words&) { return entries("fileMenu", &QAction::isEnabled); }},
         {"task-menu", [&](const Words&) { return entries("taskMenu", &QAction::isEnabled); }},
+        {"context-menu", [&](const Words&) { return contextMenu(); }},
         {"languages", [&](const Words&) { return entries("languageMenu", &QAction::isVisible); }},
         {"language", [&](const Words&) { return entries("languageMenu", &QAction::isChecked); }},
         {"recent", [&](const Words&) { return entries("recentMenu", &QAction::isVisible); }},
@@ -262,6 +296,7 @@ TEST_P(Host, IsAsWritten) {
         {"row", [&](const Words& w) { return w.label + " = " + inspector().row(w.label); }},
         {"message", [&](const Words&) { return message()->isVisible() ? message()->text() : ""; }},
         {"questions", [&](const Words&) { return std::exchange(questions, {}).join('|'); }},
+        {"offered", [&](const Words&) { return offered.join('|'); }},
         {"status", [&](const Words&) { return window->statusBar()->currentMessage(); }},
         {"stored", [&](const Words&) { return stored(path).section('|', 1); }},
         {"file", [&](const Words& w) { return w.label + ": " + content(w.label); }},

@@ -122,6 +122,7 @@ void Driver::openMenu() {
     const QPoint at = view->visualRect(view->currentIndex()).center();
     QContextMenuEvent event(QContextMenuEvent::Mouse, at, view->viewport()->mapToGlobal(at));
     QApplication::sendEvent(view->viewport(), &event);
+    EXPECT_EQ(QApplication::activePopupWidget()->y(), event.globalPos().y());
 }
 
 QAction* Driver::menuEntry(const QString& entry) const {

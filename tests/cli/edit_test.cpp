@@ -3,8 +3,6 @@
 #include "inspector/driver.h"
 #include "tiv/dbo/dbo.h"
 
-#include <QtWidgets>
-
 #include <gtest/gtest.h>
 
 namespace {

@@ -28,8 +28,7 @@ TEST(EchoData, WithoutOptionsReturnsNothingAndReportsOnlyAnUnknownType) {
         EXPECT_EQ(takeReports(), type == 12 ? Reports() : invalid) << type;
         echo.insertXMLData("{");
         EXPECT_TRUE(echo.getXMLData().isNull());
-        EXPECT_TRUE(echo.getTELINP(true, true, 1).empty());
-        EXPECT_TRUE(echo.getTELINP(false, false, 0).empty());
+        EXPECT_TRUE(echo.getTELINP(true, true, 1).empty() && echo.getTELINP(false, false, 0).empty());
     }
 }
 
@@ -56,7 +55,7 @@ TEST(SettingsString, IsReadAsAWholeAndReportedOnceOrChangesNothing) {
 TEST(EchoData, TranslatesEveryLabelCommentAndLevel) {
     QStringList sources{"Default output", "No output", "Normal output", "Full output", "Extensive output",
         "no output of text lists", "extensive output of text lists"};
-    for (const int type : {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 13})
+    for (int type = 0; type < programTypeCount; ++type)
         for (const ExpectedOption& o : expectedOptions(type)) sources << o.label << o.comment;
     setGerman(true);
     for (const QString& source : sources)

@@ -9,7 +9,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <limits>
 
 namespace {
 
@@ -42,13 +41,13 @@ void expectLines(EchoData& echo, const std::vector<ExpectedOption>& options, con
 // For all 32 combinations of elements: the defaults of each record, and eleven levels rotated over its fields, so
 // that every field takes every level, saved and loaded.
 TEST(EveryProgram, WritesTheLinesOfItsTableForAllLevelsElementsAndLanguages) {
-    const int most = std::numeric_limits<int>::max();
-    const int known[] = {0, 1, 2, 3, 4, 5, 6, 7, 8, -1, most};
+    const int known[] = {0, 1, 2, 3, 4, 5, 6, 7, 8, -1, 2147483647};
     for (unsigned kinds = 0; kinds <= everyKind; ++kinds) {
         const Project project(kinds);
-        for (const int type : {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 13}) {
+        for (int type = 0; type < programTypeCount; ++type) {
             SCOPED_TRACE(type);
             const auto options = expectedOptions(type);
+            if (type == EchoData::KURTA) continue;  // it has none
             std::vector<int> levels;
             std::ranges::transform(options, std::back_inserter(levels), &ExpectedOption::byDefault);
             EchoData echo(EchoData::ProgrammTypes(type), project.handle);

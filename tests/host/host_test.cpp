@@ -4,7 +4,6 @@
 #include "support/reports.h"
 
 #include <QTest>
-#include <QtWidgets>
 
 #include <gtest/gtest.h>
 #include <sqlite3.h>
@@ -194,10 +193,11 @@ class Host : public testing::TestWithParam<Session> {
     }
     QString look() const {
         const QPalette colours = window->palette();
-        for (const auto& [text, ground] :
-            {std::pair(QPalette::Text, QPalette::Base), {QPalette::Text, QPalette::AlternateBase},
-                {QPalette::ButtonText, QPalette::Button}, {QPalette::ToolTipText, QPalette::ToolTipBase},
-                {QPalette::Link, QPalette::Base}, {QPalette::HighlightedText, QPalette::Highlight}})
+        EXPECT_NE(colours.color(QPalette::Text), colours.color(QPalette::Disabled, QPalette::Text));
+        for (const auto& [text, ground] : {std::pair(QPalette::Text, QPalette::Base),
+                 {QPalette::Text, QPalette::AlternateBase}, {QPalette::ButtonText, QPalette::Button},
+                 {message()->foregroundRole(), message()->parentWidget()->backgroundRole()},
+                 {QPalette::Link, QPalette::Base}, {QPalette::HighlightedText, QPalette::Highlight}})
             EXPECT_GT(std::abs(qGray(colours.color(text).rgb()) - qGray(colours.color(ground).rgb())), 99);
         return QString("%1 %2 %3")
             .arg(QApplication::style()->objectName(), colours.windowText().color().name(),

@@ -1,10 +1,6 @@
 #include "inspector/driver.h"
 
-#include <QApplication>
-#include <QContextMenuEvent>
-#include <QLabel>
 #include <QTest>
-#include <QWheelEvent>
 
 #include <gtest/gtest.h>
 

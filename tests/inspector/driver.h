@@ -3,13 +3,7 @@
 
 #include "support/session.h"
 
-#include <QAction>
-#include <QMenu>
-#include <QPointer>
-#include <QString>
-#include <QStringList>
-#include <QTreeView>
-#include <QWidget>
+#include <QtWidgets>
 
 namespace test {
 

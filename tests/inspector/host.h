@@ -5,8 +5,6 @@
 #include "inspector/driver.h"
 #include "tiv/echo/echo_data.h"
 
-#include <QVBoxLayout>
-
 #include <memory>
 
 namespace test {

@@ -9,16 +9,6 @@
 #include "support/every_type.h"
 #include "support/printing.h"
 
-#include <QAccessible>
-#include <QApplication>
-#include <QClipboard>
-#include <QHeaderView>
-#include <QImage>
-#include <QLineEdit>
-#include <QPainter>
-#include <QProxyStyle>
-#include <QScreen>
-#include <QScrollBar>
 #include <QTest>
 
 #include <private/qguiapplication_p.h>
@@ -71,7 +61,7 @@ bool isDrawn(QWidget* table, const QRect& room) {
 TEST(Inspector, ShowsTheApplicableOptionsInOrderWithExactlyTheirLevels) {
     for (const unsigned kinds : {0U, everyKind}) {
         const Project project(kinds);
-        for (const int type : {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13}) {
+        for (int type = 0; type < tiv::echo::data::programTypeCount; ++type) {
             SCOPED_TRACE(type);
             EchoData echo(static_cast<EchoData::ProgrammTypes>(type), project.handle);
             const std::unique_ptr<QWidget> widget(echo.createPropertyInspector(nullptr));

@@ -1,14 +1,7 @@
 // Plays the sessions of sessions.txt.
 #include "inspector/host.h"
 
-#include <QApplication>
-#include <QCheckBox>
-#include <QClipboard>
-#include <QLineEdit>
-#include <QRegularExpression>
-#include <QShortcut>
 #include <QTest>
-#include <QToolButton>
 
 #include <private/qguiapplication_p.h>
 #include <qpa/qplatformtheme.h>

@@ -3,9 +3,7 @@
 #include "support/failure.h"
 #include "support/reports.h"
 
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
+#include <QtCore>
 
 #include <gtest/gtest.h>
 #include <sqlite3.h>

@@ -2,14 +2,7 @@
 #include "support/printing.h"
 #include "support/session.h"
 
-#include <QCoreApplication>
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
-#include <QLibrary>
-#include <QLocale>
-#include <QTemporaryDir>
-#include <QTranslator>
+#include <QtCore>
 
 #include <gtest/gtest.h>
 

@@ -2,11 +2,7 @@
 
 #include "support/printing.h"
 
-#include <QCoreApplication>
-#include <QEvent>
-#include <QFile>
-#include <QLocale>
-#include <QRegularExpression>
+#include <QtCore>
 
 #include <gtest/gtest.h>
 

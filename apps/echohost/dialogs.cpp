@@ -13,8 +13,10 @@
 #include <QSpinBox>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <array>
 #include <limits>
+#include <vector>
 
 namespace echohost {
 namespace {
@@ -71,6 +73,25 @@ class Form {
 };
 
 }  // namespace
+
+QMessageBox::StandardButton ask(QWidget* parent, QMessageBox::Icon icon, const QString& text,
+    QMessageBox::StandardButtons buttons, QMessageBox::StandardButton harmless) {
+    QMessageBox box(icon, QCoreApplication::applicationName(), text, buttons, parent);
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(harmless);
+    return static_cast<QMessageBox::StandardButton>(box.exec());
+}
+
+int ask(QWidget* parent, QMessageBox::Icon icon, const QString& text, const QStringList& answers) {
+    QMessageBox box(icon, QCoreApplication::applicationName(), text, QMessageBox::Cancel, parent);
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(QMessageBox::Cancel);
+    std::vector<QAbstractButton*> buttons;
+    for (const QString& answer : answers) buttons.push_back(box.addButton(answer, QMessageBox::AcceptRole));
+    box.exec();
+    const auto clicked = std::find(buttons.begin(), buttons.end(), box.clickedButton());
+    return clicked == buttons.end() ? -1 : static_cast<int>(clicked - buttons.begin());
+}
 
 std::optional<tiv::dbo::ElementCounts> askElementCounts(QWidget* parent) {
     Form form(parent, text(QT_TRANSLATE_NOOP("Dialog", "Elements of the new project")));

@@ -1,16 +1,23 @@
-// The dialogs that ask for the data of new projects and tasks. They return nothing when the user cancels.
+// The dialogs and message boxes of the sample host.
 #pragma once
 
 #include <tiv/dbo/dbo.h>
 
+#include <QMessageBox>
 #include <QString>
 
 #include <functional>
 #include <optional>
 
-class QWidget;
-
 namespace echohost {
+
+// `harmless` is the default button.
+QMessageBox::StandardButton ask(QWidget* parent, QMessageBox::Icon icon, const QString& text,
+    QMessageBox::StandardButtons buttons, QMessageBox::StandardButton harmless);
+// The index of the answer that was clicked; -1 for Cancel, the default.
+int ask(QWidget* parent, QMessageBox::Icon icon, const QString& text, const QStringList& answers);
+
+// The following return nothing when the user cancels.
 
 // How many elements of each kind a new project has.
 std::optional<tiv::dbo::ElementCounts> askElementCounts(QWidget* parent);

@@ -144,7 +144,7 @@ void MainWindow::fillRecentMenu() {
     for (const QString& file : QSettings().value(recentKey).toStringList()) {
         QString text = QDir::toNativeSeparators(file);
         ui_->recentMenu->addAction(text.replace('&', QLatin1String("&&")), this, [this, file] {
-            if (mayLeave()) openProject(file);
+            if (confirmClosing()) openProject(file);
         });
     }
 }
@@ -180,31 +180,13 @@ void MainWindow::attempt(const std::function<void()>& action) {
     try {
         action();
     } catch (const std::exception& problem) {
-        ask(QMessageBox::Critical,
+        ask(this,
+            QMessageBox::Critical,
             translatedReason(QString::fromUtf8(problem.what())),
             QMessageBox::Ok,
             QMessageBox::Ok);
     }
     refresh();
-}
-
-QMessageBox::StandardButton MainWindow::ask(QMessageBox::Icon icon, const QString& text,
-    QMessageBox::StandardButtons buttons, QMessageBox::StandardButton harmless) {
-    QMessageBox box(icon, QCoreApplication::applicationName(), text, buttons, this);
-    box.setTextFormat(Qt::PlainText);
-    box.setDefaultButton(harmless);
-    return static_cast<QMessageBox::StandardButton>(box.exec());
-}
-
-int MainWindow::ask(QMessageBox::Icon icon, const QString& text, const QStringList& answers) {
-    QMessageBox box(icon, QCoreApplication::applicationName(), text, QMessageBox::Cancel, this);
-    box.setTextFormat(Qt::PlainText);
-    box.setDefaultButton(QMessageBox::Cancel);
-    std::vector<QAbstractButton*> buttons;
-    for (const QString& answer : answers) buttons.push_back(box.addButton(answer, QMessageBox::AcceptRole));
-    box.exec();
-    const auto clicked = std::find(buttons.begin(), buttons.end(), box.clickedButton());
-    return clicked == buttons.end() ? -1 : static_cast<int>(clicked - buttons.begin());
 }
 
 void MainWindow::openProject(const QString& file) {
@@ -234,7 +216,7 @@ QString MainWindow::askNewFile(const QString& title) {
 }
 
 void MainWindow::newProject() {
-    if (!mayLeave()) return;
+    if (!confirmClosing()) return;
     const auto counts = askElementCounts(this);
     if (!counts) return;
     const QString file = askNewFile(tr("New project"));
@@ -244,7 +226,7 @@ void MainWindow::newProject() {
 }
 
 void MainWindow::chooseProject() {
-    if (!mayLeave()) return;
+    if (!confirmClosing()) return;
     const QString file =
         QFileDialog::getOpenFileName(this, tr("Open project"), projectFolder(), tr("Projects (*.tiv)"));
     if (!file.isEmpty()) openProject(file);
@@ -256,7 +238,8 @@ void MainWindow::saveProject() {
         if (project_->save([this](const QString& task) { return askWhoseToKeep(task); })) listTasks(selected);
         return;
     } catch (const std::exception& problem) {
-        const int answer = ask(QMessageBox::Critical,
+        const int answer = ask(this,
+            QMessageBox::Critical,
             translatedReason(QString::fromUtf8(problem.what())),
             {ui_->saveAs->text()});
         if (answer == 0) saveProjectAs();
@@ -264,7 +247,8 @@ void MainWindow::saveProject() {
 }
 
 Project::Keep MainWindow::askWhoseToKeep(const QString& task) {
-    const int answer = ask(QMessageBox::Warning,
+    const int answer = ask(this,
+        QMessageBox::Warning,
         tr("You have changed the task \"%1\". Another program has changed or removed it, too.").arg(task),
         {tr("Keep &mine"), tr("Take &theirs")});
     constexpr Project::Keep keeps[] = {Project::Keep::Mine, Project::Keep::Theirs};
@@ -280,9 +264,10 @@ void MainWindow::saveProjectAs() {
     ui_->tasks->setCurrentItem(ui_->tasks->topLevelItem(row));
 }
 
-bool MainWindow::mayLeave() {
+bool MainWindow::confirmClosing() {
     if (!project_ || !project_->isChanged()) return true;
-    const auto answer = ask(QMessageBox::Warning,
+    const auto answer = ask(this,
+        QMessageBox::Warning,
         tr("%1 has unsaved changes.").arg(QFileInfo(project_->file()).fileName()),
         QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel,
         QMessageBox::Save);
@@ -291,7 +276,7 @@ bool MainWindow::mayLeave() {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-    event->setAccepted(mayLeave());
+    event->setAccepted(confirmClosing());
     if (!event->isAccepted()) return;
     QSettings settings;
     settings.setValue(geometryKey, saveGeometry());
@@ -309,7 +294,7 @@ void MainWindow::dropEvent(QDropEvent* event) {
     QMetaObject::invokeMethod(
         this,
         [this, file] {
-            if (mayLeave()) openProject(file);
+            if (confirmClosing()) openProject(file);
         },
         Qt::QueuedConnection);
 }
@@ -396,7 +381,8 @@ void MainWindow::duplicateTask() {
 
 void MainWindow::removeTask() {
     const int row = currentRow();
-    const auto answer = ask(QMessageBox::Question,
+    const auto answer = ask(this,
+        QMessageBox::Question,
         tr("Remove the task \"%1\" and its settings?").arg(currentTask()->name()),
         QMessageBox::Yes | QMessageBox::No,
         QMessageBox::No);

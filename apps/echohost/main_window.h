@@ -13,7 +13,6 @@
 #include <tiv/smartassert/smart_assert.h>
 
 #include <QMainWindow>
-#include <QMessageBox>
 #include <QPointer>
 
 #include <functional>
@@ -70,17 +69,12 @@ class MainWindow : public QMainWindow {
 
     // Shows exceptions in a message box, because Qt cannot pass them through its event loop. Then refreshes.
     void attempt(const std::function<void()>& action);
-    // `harmless` is the default button.
-    QMessageBox::StandardButton ask(QMessageBox::Icon icon, const QString& text,
-        QMessageBox::StandardButtons buttons, QMessageBox::StandardButton harmless);
-    // The index of the answer that was clicked; -1 for Cancel, the default.
-    int ask(QMessageBox::Icon icon, const QString& text, const QStringList& answers);
     Project::Keep askWhoseToKeep(const QString& task);
     // Where file dialogs open. Empty without a project: where the last one was.
     QString projectFolder() const;
     QString askNewFile(const QString& title);
     // Whether the project may be closed: asks the user if there are unsaved changes.
-    bool mayLeave();
+    bool confirmClosing();
 
     int currentRow() const;
     Task* currentTask() const;  // null when none is selected

@@ -140,7 +140,7 @@ bool Project::save(const Ask& ask) {
                 changes.push_back({task->stored(), task->row()});
         const auto conflicts = dbo::changeTasks(database, changes);
         if (conflicts.empty()) break;
-        if (!settle({conflicts.begin(), conflicts.end()}, database, ask, dropped)) return false;
+        if (!resolveConflicts({conflicts.begin(), conflicts.end()}, database, ask, dropped)) return false;
     }
     removed_.clear();
     for (const auto& task : tasks_) task->markStored();
@@ -150,7 +150,7 @@ bool Project::save(const Ask& ask) {
 
 // Rebases each refused change on the row that the file has now, or drops it. If the user cancels, nothing is
 // changed.
-bool Project::settle(
+bool Project::resolveConflicts(
     const std::set<std::string>& names, int database, const Ask& ask, std::set<const Task*>& dropped) {
     const auto rows = dbo::tasks(database);
     std::vector<std::function<void()>> steps;

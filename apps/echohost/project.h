@@ -97,7 +97,7 @@ class Project {
     void copyTo(const QString& file) const;
 
  private:
-    bool settle(
+    bool resolveConflicts(
         const std::set<std::string>& names, int database, const Ask& ask, std::set<const Task*>& dropped);
     Task* changedTask(const std::string& name) const;
     void read(int database);

@@ -7,6 +7,7 @@
 #include <QDateTime>
 #include <QEvent>
 #include <QFontMetrics>
+#include <QFontMetricsF>
 #include <QHeaderView>
 #include <QPaintEvent>
 #include <QPainter>
@@ -43,9 +44,35 @@ QString broken(const QString& word, const QFontMetrics& metrics, int width) {
     return result;
 }
 
+// The widths of texts in one line, in pixels. That of a text is the sum of its words: shaping texts dominates the cost of
+// measuring, and many texts share words.
+class TextWidths {
+ public:
+    explicit TextWidths(const QFont& font)
+        : metrics_(font), space_(metrics_.horizontalAdvance(QLatin1Char(' '))) {}
+
+    bool isKnown(const QString& text) const { return known_.contains(text); }
+
+    int of(const QString& text) {
+        const auto found = known_.constFind(text);
+        if (found != known_.constEnd()) return *found;
+        const QStringList words = text.split(QLatin1Char(' '));
+        qreal width = words.size() == 1 ? metrics_.horizontalAdvance(text)
+                                        : static_cast<qreal>(words.size() - 1) * space_;
+        if (words.size() > 1)
+            for (const QString& word : words) width += of(word);
+        return *known_.insert(text, static_cast<int>(std::ceil(width)));
+    }
+
+ private:
+    QFontMetricsF metrics_;
+    qreal space_;
+    QHash<QString, int> known_;
+};
+
 }  // namespace
 
-PropertyView::PropertyView(QWidget* parent) : QTreeView(parent), bold_(font()) {
+PropertyView::PropertyView(QWidget* parent) : QTreeView(parent) {
     setRootIsDecorated(false);
     setUniformRowHeights(true);
     setAlternatingRowColors(true);
@@ -126,53 +153,57 @@ QSize PropertyView::sizeOf(QStyleOptionViewItem& option, const QString& text) co
     return style()->sizeFromContents(QStyle::CT_ItemViewItem, &option, {}, this);
 }
 
-// The style is queried once per column for what it adds to a text; QFontMetrics gives the widths of the texts.
 void PropertyView::measure() const {
     if (isMeasured_ || !model()) return;
     isMeasured_ = true;
     heights_.clear();
-    labelWidths_.clear();
-    const auto* rows = static_cast<const RecordItemModel*>(model());
+    measureTexts();
+    addMargins(labelColumn, labels_);
+    addMargins(valueColumn, values_);
+    leastLabel_ = std::min(labels_.word, 8 * boldOption(labelColumn).fontMetrics.averageCharWidth());
+    QStyleOptionViewItem sign = boldOption(resetColumn);
+    signWidth_ = std::max(sizeOf(sign, resetSign()).width(), lineHeight_);
+}
+
+// The values include all that are offered, so that a choice never moves the columns.
+void PropertyView::measureTexts() const {
+    const auto& rows = *static_cast<const RecordItemModel*>(model());
     const QStyleOptionViewItem bold = boldOption(labelColumn);
-    const QFontMetrics& metrics = bold.fontMetrics;
-    bold_ = QFontMetricsF(bold.font);
-    space_ = bold_.horizontalAdvance(QLatin1Char(' '));
-    QHash<QString, int> known;
+    TextWidths texts(bold.font);
     const auto add = [&](Widths& widths, const QString& text) {
-        if (known.contains(text)) return;  // most levels are offered in every row
-        widths.line = std::max(widths.line, widthOf(text, known));
+        if (texts.isKnown(text)) return;  // most levels are offered in every row
+        widths.line = std::max(widths.line, texts.of(text));
         for (const QString& word : text.split(QLatin1Char(' ')))
-            widths.word = std::max(widths.word, widthOf(word, known));
+            widths.word = std::max(widths.word, texts.of(word));
     };
     labels_ = values_ = {};
-    for (int row = 0; row < rows->rowCount(); ++row) {
-        const QModelIndex label = rows->index(row, labelColumn);
+    labelWidths_.clear();
+    for (int row = 0; row < rows.rowCount(); ++row) {
+        const QModelIndex label = rows.index(row, labelColumn);
         const QString text = label.data().toString();
         add(labels_, text);
-        labelWidths_.push_back(widthOf(text, known));
-        const auto property = rows->property(label);
+        labelWidths_.push_back(texts.of(text));
+        const auto property = rows.property(label);
         if (!property) continue;
         const int characters = property->columnWidth ? QString::fromUtf8(property->columnWidth).toInt() : 0;
-        values_.line = std::max(values_.line, characters * metrics.averageCharWidth());
+        values_.line = std::max(values_.line, characters * bold.fontMetrics.averageCharWidth());
         add(values_, label.siblingAtColumn(valueColumn).data().toString());
         const auto* entries = property->configuration.get<NamedValues>(path::editorEntries);
         if (!entries) continue;
         for (const NamedValue& entry : **entries) add(values_, entry.text);
     }
+}
+
+// The style is queried with one letter for what it adds to a text.
+void PropertyView::addMargins(int column, Widths& widths) const {
     const QString letter(QLatin1Char('x'));
-    for (const auto& [column, widths] :
-        {std::pair(labelColumn, &labels_), std::pair(valueColumn, &values_)}) {
-        QStyleOptionViewItem option = boldOption(column);
-        const QSize size = sizeOf(option, letter);
-        widths->margins = size.width() - metrics.horizontalAdvance(letter) + 1;  // widths are rounded
-        const int heading = header()->sectionSizeHint(column);
-        widths->word = std::max(widths->word + widths->margins, heading);
-        widths->line = std::max(widths->line + widths->margins, heading);
-        lineHeight_ = std::max(size.height(), fontMetrics().height() * 3 / 2);  // room for an editor
-    }
-    leastLabel_ = std::min(labels_.word, 8 * metrics.averageCharWidth());
-    QStyleOptionViewItem sign = boldOption(resetColumn);
-    signWidth_ = std::max(sizeOf(sign, resetSign()).width(), lineHeight_);
+    QStyleOptionViewItem option = boldOption(column);
+    const QSize size = sizeOf(option, letter);
+    const int heading = header()->sectionSizeHint(column);
+    widths.margins = size.width() - option.fontMetrics.horizontalAdvance(letter) + 1;  // widths are rounded
+    widths.word = std::max(widths.word + widths.margins, heading);
+    widths.line = std::max(widths.line + widths.margins, heading);
+    lineHeight_ = std::max(size.height(), fontMetrics().height() * 3 / 2);  // room for an editor
 }
 
 int PropertyView::heightOf(const QModelIndex& cell) const {
@@ -190,18 +221,6 @@ int PropertyView::heightOf(const QModelIndex& cell) const {
     option.features |= QStyleOptionViewItem::WrapText;
     option.rect.setWidth(width);
     return *heights_.insert(text, std::max(lineHeight_, sizeOf(option, fitted(cell)).height()));
-}
-
-// The sum of the widths of its words: shaping texts dominates the cost of measuring, and many texts share words.
-int PropertyView::widthOf(const QString& text, QHash<QString, int>& known) const {
-    const auto found = known.constFind(text);
-    if (found != known.constEnd()) return *found;
-    const QStringList words = text.split(QLatin1Char(' '));
-    qreal width =
-        words.size() == 1 ? bold_.horizontalAdvance(text) : static_cast<qreal>(words.size() - 1) * space_;
-    if (words.size() > 1)
-        for (const QString& word : words) width += widthOf(word, known);
-    return *known.insert(text, static_cast<int>(std::ceil(width)));
 }
 
 QString PropertyView::fitted(const QModelIndex& cell) const {

@@ -2,7 +2,6 @@
 // when it is empty.
 #pragma once
 
-#include <QFontMetricsF>
 #include <QHash>
 #include <QRegion>
 #include <QString>
@@ -77,12 +76,12 @@ class PropertyView : public QTreeView {
     void onClicked(const QModelIndex& cell);
     void onSectionResized(int section, int before, int width);
     void measure() const;
+    void measureTexts() const;
+    void addMargins(int column, Widths& widths) const;
     int roomForTexts() const;
     int wantedLabel(int room) const;
     void fitColumns();
     QStyleOptionViewItem boldOption(int column) const;
-    // The width of a text in one line, without margins. `known` holds the texts already measured.
-    int widthOf(const QString& text, QHash<QString, int>& known) const;
     QSize sizeOf(QStyleOptionViewItem& option, const QString& text) const;
     QSize sizeFor(int lines, int width) const;
 
@@ -90,9 +89,7 @@ class PropertyView : public QTreeView {
     QRegion painted_;
     QString searched_;
     qint64 searchedAt_ = 0;
-    mutable bool isMeasured_ = false;  // the next measures are then valid
-    mutable QFontMetricsF bold_;
-    mutable qreal space_ = 0;
+    mutable bool isMeasured_ = false;       // the next measures are then valid
     mutable std::vector<int> labelWidths_;  // by row, in one line, without margins
     mutable QHash<QString, int> heights_;   // of wrapped texts, in the columns of the last layout
     mutable Widths labels_;

@@ -113,7 +113,7 @@ TEST_F(EchotableTool, ReportsErrorsInOneLineAndChangesNothing) {
 TEST_F(EchotableTool, RunsInAShell) {
     if (!QFile::exists("/dev/full")) GTEST_SKIP() << "not this system";
     repeat("system.txt", &EchotableTool::shell);
-    EXPECT_LT(QImage(folder.filePath("output0000.png")).pixelColor(5, 5).lightness(), 99) << "dark";
+    EXPECT_LT(QImage(folder.filePath("output0001.png")).pixelColor(5, 5).lightness(), 99) << "dark";
 }
 
 }  // namespace

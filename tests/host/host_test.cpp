@@ -88,8 +88,8 @@ class Host : public testing::TestWithParam<Session> {
             QTest::keyClicks(dialog->focusWidget(), answer.section('/', 0, 0));
         }
         if (auto* program = dialog->findChild<QComboBox*>()) {
-            for (offered.clear(); offered.size() < program->count();)
-                offered << program->itemText(offered.size());
+            offered.clear();
+            for (int i = 0; i < program->count(); ++i) offered << program->itemText(i);
             program->setCurrentText(answer.section('/', 1));
         }
         const auto counts = dialog->findChildren<QSpinBox*>();
@@ -98,7 +98,7 @@ class Host : public testing::TestWithParam<Session> {
         for (const auto* label : dialog->findChildren<QLabel*>()) {
             questions.last() += ' ' + label->text();
             EXPECT_EQ(label->buddy() != nullptr, label->text().contains('&'));
-            EXPECT_LT(label->y(), ok->mapTo(dialog, {0, 0}).y());
+            EXPECT_LT(label->y(), ok->mapTo(dialog, QPoint()).y());
         }
         ok->click();
         dialog->close();  // where OK is disabled
@@ -134,7 +134,7 @@ class Host : public testing::TestWithParam<Session> {
             result = menu ? shown(texts(*menu).remove('&')) : "none";
             if (menu) menu->close();
         });
-        QContextMenuEvent event(QContextMenuEvent::Mouse, {9, 9}, tasks()->mapToGlobal({9, 9}));
+        QContextMenuEvent event(QContextMenuEvent::Mouse, {9, 9}, tasks()->mapToGlobal(QPoint(9, 9)));
         QApplication::sendEvent(tasks()->viewport(), &event);
         QApplication::processEvents();
         return result;

@@ -571,6 +571,8 @@ TEST(Inspector, PaintsWhateverChanges) {
     driver.click("Loads", 2);
     expectPainted("a reset");
     driver.key(Qt::Key_F, Qt::ControlModifier);
+    driver.type("load");
+    EXPECT_FALSE(isDrawn(&table, table.rect().adjusted(9, 99, -9, -9))) << "below the two rows";
     driver.type("zzz");
     expectPainted("the filter");
     QImage expected(table.size(), QImage::Format_RGB32);

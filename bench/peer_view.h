@@ -18,8 +18,8 @@ inline void showWidget(QWidget& widget) {
     QCoreApplication::processEvents();
 }
 
-// Two measurements of the widgets that `make` returns, each with the object that must live as long: in windows of their
-// own, and in a window of a host that was shown before.
+// The memory of shown widgets, in a window of a host that was shown before, and in windows of their own. `make` returns a
+// widget and the object that keeps it.
 template <class Make>
 std::vector<Holding> shownHoldings(const std::string& name, const Make& make) {
     const auto holding = [=](bool hasHost) {

@@ -5,6 +5,8 @@
 
 #include <QSize>
 
+#include <boost/locale/info.hpp>
+
 #include <gtest/gtest.h>
 
 #include <limits>
@@ -125,6 +127,7 @@ TEST_F(EveryProperty, HasItsTextsFromTheTranslator) {
 TEST(Xlator, GeneratesALocaleOnce) {
     tiv::translation::Xlator xlator({});
     const std::locale& german = xlator.locale("de_DE");
+    EXPECT_TRUE(std::use_facet<boost::locale::info>(german).utf8());
     EXPECT_EQ(&german, &xlator.locale("de_DE"));
     EXPECT_EQ(&german, &xlator.locale("de_DE.ISO8859-1"));
     EXPECT_NE(&german, &xlator.locale("de_AT"));

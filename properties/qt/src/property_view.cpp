@@ -2,22 +2,20 @@
 
 #include "properties/definitions/paths.h"
 #include "properties/qt/src/record_item_model.h"
+#include "properties/qt/src/text_widths.h"
 
 #include <QApplication>
 #include <QDateTime>
 #include <QEvent>
 #include <QFontMetrics>
-#include <QFontMetricsF>
 #include <QHeaderView>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
 #include <QScrollBar>
-#include <QTextBoundaryFinder>
 
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
 namespace tiv::properties {
 namespace {
@@ -26,49 +24,6 @@ constexpr int labelColumn = RecordItemModel::LabelColumn;
 constexpr int valueColumn = RecordItemModel::ValueColumn;
 constexpr int resetColumn = RecordItemModel::ResetColumn;
 constexpr int fewestLines = 3, mostLines = 20;  // of the size hints
-
-// The word with zero-width spaces, at which it can be broken into parts that fit into the width.
-QString broken(const QString& word, const QFontMetrics& metrics, int width) {
-    QString result;
-    QTextBoundaryFinder letters(QTextBoundaryFinder::Grapheme, word);
-    for (int from = 0, to = 0; to >= 0;) {
-        const auto next = static_cast<int>(letters.toNextBoundary());
-        const bool fits = next >= 0 && metrics.horizontalAdvance(word.mid(from, next - from)) <= width;
-        if (!fits && to > from) {
-            if (from > 0) result += QChar(0x200B);
-            result += word.mid(from, to - from);
-            from = to;
-        }
-        to = next;
-    }
-    return result;
-}
-
-// The widths of texts in one line, in pixels. That of a text is the sum of its words: shaping texts dominates the cost of
-// measuring, and many texts share words.
-class TextWidths {
- public:
-    explicit TextWidths(const QFont& font)
-        : metrics_(font), space_(metrics_.horizontalAdvance(QLatin1Char(' '))) {}
-
-    bool isKnown(const QString& text) const { return known_.contains(text); }
-
-    int of(const QString& text) {
-        const auto found = known_.constFind(text);
-        if (found != known_.constEnd()) return *found;
-        const QStringList words = text.split(QLatin1Char(' '));
-        qreal width = words.size() == 1 ? metrics_.horizontalAdvance(text)
-                                        : static_cast<qreal>(words.size() - 1) * space_;
-        if (words.size() > 1)
-            for (const QString& word : words) width += of(word);
-        return *known_.insert(text, static_cast<int>(std::ceil(width)));
-    }
-
- private:
-    QFontMetricsF metrics_;
-    qreal space_;
-    QHash<QString, int> known_;
-};
 
 }  // namespace
 
@@ -230,7 +185,7 @@ QString PropertyView::fitted(const QModelIndex& cell) const {
     const int room = columnWidth(labelColumn) - labels_.margins;
     QStringList words = text.split(QLatin1Char(' '));
     for (QString& word : words)
-        if (metrics.horizontalAdvance(word) > room) word = broken(word, metrics, room);
+        if (metrics.horizontalAdvance(word) > room) word = breakable(word, metrics, room);
     return words.join(QLatin1Char(' '));
 }
 

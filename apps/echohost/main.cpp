@@ -30,7 +30,9 @@ int main(int argc, char** argv) {
     arguments.addOption(dark);
     arguments.addPositionalArgument(
         QStringLiteral("FILE"), QStringLiteral("The project to open."), QStringLiteral("[FILE]"));
-    arguments.parse(words(argc, argv));  // which still contain Qt's own options
+    // Qt's own options begin with one dash and are still there: the letters of "-reverse" are no options.
+    arguments.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
+    arguments.parse(words(argc, argv));
     if (arguments.isSet(help) || arguments.isSet(version)) {
         const QCoreApplication withoutDisplay(argc, argv);
         arguments.process(withoutDisplay);
